@@ -1,0 +1,89 @@
+#include "app/interaction_qt.h"
+
+#include <QCoreApplication>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QThread>
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "support/windows1252.h"
+
+namespace vireo {
+namespace {
+
+QString Text(std::string_view bytes) { return FromWindows1252(bytes); }
+
+void WriteToStderr(std::string_view kind, std::string_view title, std::string_view text) {
+  std::fprintf(stderr, "[%.*s] %.*s: %.*s\n", static_cast<int>(kind.size()), kind.data(),
+               static_cast<int>(title.size()), title.data(), static_cast<int>(text.size()),
+               text.data());
+  std::fflush(stderr);
+}
+
+}  // namespace
+
+QString FromWindows1252(std::string_view bytes) {
+  QString text;
+  text.reserve(static_cast<qsizetype>(bytes.size()));
+  for (char byte : bytes) {
+    text.append(QChar(static_cast<char16_t>(Windows1252ToUnicode(static_cast<uint8_t>(byte)))));
+  }
+  return text;
+}
+
+std::string ToWindows1252(const QString& text) {
+  std::string bytes;
+  bytes.reserve(static_cast<size_t>(text.size()));
+  for (QChar c : text) bytes.push_back(static_cast<char>(UnicodeToWindows1252(c.unicode()).value_or('?')));
+  return bytes;
+}
+
+bool NonInteractiveMode() {
+  const char* value = std::getenv("VIREO_NONINTERACTIVE");
+  return value != nullptr && *value != '\0' && std::string_view(value) != "0";
+}
+
+void QtUserInteraction::ShowMessage(std::string_view text, std::string_view title) {
+  QMessageBox::information(parent_, Text(title), Text(text));
+}
+
+std::optional<std::string> QtUserInteraction::AskText(std::string_view prompt,
+                                                      std::string_view title,
+                                                      std::string_view default_text) {
+  bool ok = false;
+  const QString answer = QInputDialog::getText(parent_, Text(title), Text(prompt),
+                                               QLineEdit::Normal, Text(default_text), &ok);
+  if (!ok) return std::nullopt;
+  return ToWindows1252(answer);
+}
+
+bool QtUserInteraction::AskYesNo(std::string_view question, std::string_view title) {
+  return QMessageBox::question(parent_, Text(title), Text(question),
+                               QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+}
+
+void StderrInteraction::ShowMessage(std::string_view text, std::string_view title) {
+  WriteToStderr("message", title, text);
+}
+
+std::optional<std::string> StderrInteraction::AskText(std::string_view prompt,
+                                                      std::string_view title,
+                                                      std::string_view default_text) {
+  WriteToStderr("input", title, prompt);
+  return std::string(default_text);
+}
+
+bool StderrInteraction::AskYesNo(std::string_view question, std::string_view title) {
+  WriteToStderr("question", title, question);
+  return false;
+}
+
+void QtMessagePump::Yield() { QCoreApplication::processEvents(); }
+
+void QtMessagePump::SleepMilliseconds(int milliseconds) {
+  if (milliseconds > 0) QThread::msleep(static_cast<unsigned long>(milliseconds));
+}
+
+}  // namespace vireo

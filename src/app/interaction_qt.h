@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QWidget>
+
+#include "support/user_interaction.h"
+
+namespace vireo {
+
+// Message boxes and input boxes as Qt dialogs over a parent window.
+class QtUserInteraction : public UserInteraction {
+ public:
+  explicit QtUserInteraction(QWidget* parent = nullptr) : parent_(parent) {}
+  void set_parent(QWidget* parent) { parent_ = parent; }
+  void ShowMessage(std::string_view text, std::string_view title) override;
+  std::optional<std::string> AskText(std::string_view prompt, std::string_view title,
+                                     std::string_view default_text) override;
+  bool AskYesNo(std::string_view question, std::string_view title) override;
+
+ private:
+  QWidget* parent_;
+};
+
+// The non-interactive mode (VIREO_NONINTERACTIVE=1): every box is written to
+// standard error and answered with its default (OK, the default text, No).
+class StderrInteraction : public UserInteraction {
+ public:
+  void ShowMessage(std::string_view text, std::string_view title) override;
+  std::optional<std::string> AskText(std::string_view prompt, std::string_view title,
+                                     std::string_view default_text) override;
+  bool AskYesNo(std::string_view question, std::string_view title) override;
+};
+
+// The Qt event loop as the core's message pump.
+class QtMessagePump : public MessagePump {
+ public:
+  void Yield() override;
+  void SleepMilliseconds(int milliseconds) override;
+};
+
+// True when VIREO_NONINTERACTIVE is set to anything but "" or "0".
+bool NonInteractiveMode();
+
+// Book text is Windows-1252 bytes; Qt wants Unicode.
+QString FromWindows1252(std::string_view bytes);
+std::string ToWindows1252(const QString& text);
+
+}  // namespace vireo

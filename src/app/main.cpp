@@ -1,0 +1,88 @@
+#include <QApplication>
+#include <QSocketNotifier>
+#include <QTimer>
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+#include "app/interaction_qt.h"
+#include "app/main_window.h"
+#include "support/platform.h"
+
+#if !defined(_WIN32)
+#include <sys/socket.h>
+#include <unistd.h>
+#endif
+
+namespace {
+
+#if !defined(_WIN32)
+int g_signal_pipe[2] = {-1, -1};
+
+void OnTerminate(int) {
+  const char byte = 1;
+  [[maybe_unused]] const auto written = write(g_signal_pipe[1], &byte, 1);
+}
+
+// SIGTERM and SIGINT ask the program to quit as Exit does.
+void QuitOnSignals(vireo::MainWindow& window) {
+  if (socketpair(AF_UNIX, SOCK_STREAM, 0, g_signal_pipe) != 0) return;
+  auto* notifier = new QSocketNotifier(g_signal_pipe[0], QSocketNotifier::Read, &window);
+  QObject::connect(notifier, &QSocketNotifier::activated, &window, [&window] {
+    char byte = 0;
+    [[maybe_unused]] const auto count = read(g_signal_pipe[0], &byte, 1);
+    window.logic().Quit();
+  });
+  std::signal(SIGTERM, OnTerminate);
+  std::signal(SIGINT, OnTerminate);
+}
+#else
+void QuitOnSignals(vireo::MainWindow&) {}
+#endif
+
+int EnvironmentNumber(const char* name) {
+  const char* value = std::getenv(name);
+  return value == nullptr ? -1 : std::atoi(value);
+}
+
+// VIREO_SCREENSHOT=FILE.png: once started, save the window as a picture,
+// print its path and quit. VIREO_QUIT_AFTER_MS=N: quit N ms after start-up.
+void ScheduleAutomation(vireo::MainWindow& window) {
+  if (const char* shot = std::getenv("VIREO_SCREENSHOT"); shot != nullptr && *shot != '\0') {
+    const QString path = QString::fromLocal8Bit(shot);
+    QTimer::singleShot(300, &window, [&window, path] {
+      if (window.grab().save(path)) std::printf("%s\n", path.toLocal8Bit().constData());
+      std::fflush(stdout);
+      window.logic().Quit();
+    });
+  }
+  if (const int delay = EnvironmentNumber("VIREO_QUIT_AFTER_MS"); delay >= 0) {
+    QTimer::singleShot(delay, &window, [&window] { window.logic().Quit(); });
+  }
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  QApplication application(argc, argv);
+  std::unique_ptr<vireo::UserInteraction> user;
+  auto* qt_user = new vireo::QtUserInteraction();
+  if (vireo::NonInteractiveMode()) {
+    user.reset(new vireo::StderrInteraction());
+    delete qt_user;
+    qt_user = nullptr;
+  } else {
+    user.reset(qt_user);
+  }
+  vireo::MainWindow window(*user,
+                           vireo::ProgramLocation{vireo::ProgramFolder(), vireo::ExecutablePath()});
+  if (qt_user != nullptr) qt_user->set_parent(&window);
+  if (!window.logic().Form_Load()) return 1;
+  window.show();
+  QuitOnSignals(window);
+  ScheduleAutomation(window);
+  const int status = application.exec();
+  return window.end_status() >= 0 ? window.end_status() : status;
+}

@@ -1,0 +1,208 @@
+#include "prefs/shared_settings.h"
+
+#include <algorithm>
+
+#include "support/error_trap.h"
+#include "support/file_io.h"
+#include "support/logging.h"
+#include "support/platform.h"
+#include "support/runtime_error.h"
+#include "support/text_helpers.h"
+
+namespace vireo {
+namespace {
+
+constexpr std::string_view kModule = "cSHAREDSettings";
+
+std::string WithoutCommas(std::string key) {
+  std::erase(key, ',');
+  return key;
+}
+
+std::string TrimBlanks(const std::string& text) {
+  const size_t first = text.find_first_not_of(' ');
+  if (first == std::string::npos) return "";
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+// Splits one line into its comma-delimited key field and the rest: leading
+// blanks are skipped, a key in double quotes is read without them.
+std::pair<std::string, std::string> SplitLine(const std::string& line) {
+  size_t at = line.find_first_not_of(' ');
+  if (at == std::string::npos) return {"", ""};
+  if (line[at] == '"') {
+    const size_t close = line.find('"', at + 1);
+    if (close == std::string::npos) return {line.substr(at + 1), ""};
+    const size_t comma = line.find(',', close);
+    return {line.substr(at + 1, close - at - 1),
+            comma == std::string::npos ? "" : line.substr(comma + 1)};
+  }
+  const size_t comma = line.find(',', at);
+  if (comma == std::string::npos) return {TrimBlanks(line.substr(at)), ""};
+  return {TrimBlanks(line.substr(at, comma - at)), line.substr(comma + 1)};
+}
+
+std::vector<std::string> SplitLines(const std::string& content) {
+  std::vector<std::string> lines;
+  size_t start = 0;
+  while (start < content.size()) {
+    size_t end = content.find_first_of("\r\n", start);
+    if (end == std::string::npos) end = content.size();
+    lines.push_back(content.substr(start, end - start));
+    if (end < content.size() && content[end] == '\r' && end + 1 < content.size() &&
+        content[end + 1] == '\n') {
+      ++end;
+    }
+    start = end + 1;
+  }
+  return lines;
+}
+
+}  // namespace
+
+int cSHAREDSettings::SettingsCount() const { return static_cast<int>(items_.size()); }
+
+std::string cSHAREDSettings::SettingNameByIndex(int index) const {
+  std::string name;
+  Trap("get settingnamebyindex", kModule, [&] {
+    Require(index >= 1 && index <= SettingsCount(), ErrorNumber::kSubscriptOutOfRange);
+    name = items_[index - 1].KeyName;
+  });
+  return name;
+}
+
+cSHAREDSettings::SearchResult cSHAREDSettings::FindSetting(const std::string& raw_key) const {
+  const std::string key = WithoutCommas(raw_key);
+  const int count = SettingsCount();
+  if (count == 0) return {-1, 0};
+  auto name = [&](int i) -> const std::string& { return items_[i - 1].KeyName; };
+  int low = 1;
+  int high = count;
+  if (name(low) == key) return {low, low + 1};
+  if (name(high) == key) return {high, high + 1};
+  int mid = 1;
+  while (low <= high) {
+    mid = (low + high) / 2;
+    if (name(mid) == key) return {mid, mid + 1};
+    if (name(mid) > key) {
+      high = mid - 1;
+    } else {
+      low = mid + 1;
+    }
+  }
+  return {-1, name(mid) > key ? mid : mid + 1};
+}
+
+void cSHAREDSettings::StoreSetting(const std::string& key, const SettingValue& value) {
+  Trap("storesetting", kModule, [&] { AddSetting(UpperCase(key), value); });
+}
+
+void cSHAREDSettings::AddSetting(const std::string& key, const SettingValue& value) {
+  Trap("addsetting", kModule, [&] {
+    const SearchResult found = FindSetting(key);
+    if (found.index > 0) {
+      items_[found.index - 1].KeyValue = value;
+      return;
+    }
+    cSHAREDSetting item{WithoutCommas(key), value};
+    if (found.insert_at != 0 && found.insert_at <= SettingsCount()) {
+      items_.insert(items_.begin() + (found.insert_at - 1), std::move(item));
+    } else {
+      items_.push_back(std::move(item));
+    }
+  });
+}
+
+SettingValue cSHAREDSettings::RetrieveSetting(const std::string& key,
+                                              const SettingValue& default_value) const {
+  SettingValue result = default_value;
+  Trap("retrievesetting", kModule, [&] {
+    const SearchResult found = FindSetting(UpperCase(key));
+    if (found.index < 0) return;
+    const SettingValue& value = items_[found.index - 1].KeyValue;
+    result = value.IsText() ? ParseSettingText(value.ToText()) : value;
+  });
+  return result;
+}
+
+SettingValue cSHAREDSettings::RetrieveWithDefault(const std::string& key,
+                                                  const SettingValue& default_value) const {
+  SettingValue result;
+  Trap("retrievewithdefault", kModule, [&] {
+    result = RetrieveSetting(key);
+    if (result.EqualsZero()) result = default_value;
+  });
+  return result;
+}
+
+bool cSHAREDSettings::SettingPresent(const std::string& key) const {
+  return FindSetting(UpperCase(key)).index > 0;
+}
+
+void cSHAREDSettings::DeleteSetting(int index) {
+  Trap("deletesetting", kModule, [&] {
+    Require(index >= 1 && index <= SettingsCount(), ErrorNumber::kSubscriptOutOfRange);
+    items_.erase(items_.begin() + (index - 1));
+  });
+}
+
+void cSHAREDSettings::DeleteSettingByName(const std::string& key) {
+  Trap("deletesettingbyname", kModule, [&] {
+    const SearchResult found = FindSetting(key);
+    if (found.index > 0) DeleteSetting(found.index);
+  });
+}
+
+void cSHAREDSettings::DeleteAllSettings() { items_.clear(); }
+
+void cSHAREDSettings::SortSettings() {
+  std::stable_sort(items_.begin(), items_.end(),
+                   [](const auto& a, const auto& b) { return a.KeyName < b.KeyName; });
+}
+
+void cSHAREDSettings::SaveSettings(const std::string& path) const {
+  try {
+    if (!PrepareForOutput(path)) return;
+    std::string content;
+    for (const cSHAREDSetting& item : items_) {
+      content += WithoutCommas(UpperCase(item.KeyName));
+      content += ',';
+      content += item.KeyValue.ToText();
+      content += "\r\n";
+    }
+    WriteFileAtomically(path, content);
+  } catch (const RuntimeError& error) {
+    LogAction("Unable to write to settings file - possibly read-only? - " + error.description() +
+              " in SaveSettings");
+    RecordError(error, "savesettings", kModule);
+  } catch (...) {
+    RecordCurrentException("savesettings", kModule);
+  }
+}
+
+void cSHAREDSettings::LoadSettings(const std::string& path) {
+  if (!FileExists(path)) return;
+  std::string key;
+  std::string value;
+  try {
+    const std::string content = ReadWholeFile(path);
+    DeleteAllSettings();
+    std::string previous_key;
+    for (const std::string& line : SplitLines(content)) {
+      std::tie(key, value) = SplitLine(line);
+      const std::string normal = UpperCase(TrimBlanks(key));
+      const bool skip = normal.empty() || normal == previous_key;
+      previous_key = normal;
+      if (!skip) AddSetting(key, ParseSettingText(value));
+    }
+  } catch (const RuntimeError& error) {
+    LogAction("Error " + std::to_string(error.number()) + " in line: " + key + "," + value +
+              " of " + path);
+    RecordError(error, "loadsettings", kModule);
+  } catch (...) {
+    RecordCurrentException("loadsettings", kModule);
+  }
+  SortSettings();
+}
+
+}  // namespace vireo

@@ -1,0 +1,34 @@
+#include "support/error_trap.h"
+
+#include <new>
+#include <string>
+
+#include "support/logging.h"
+
+namespace vireo {
+
+void RecordError(const RuntimeError& error, std::string_view procedure, std::string_view module) {
+  std::string name(procedure);
+  name += "(" + std::to_string(error.number()) + ")";
+  LogProc(error.description(), name, module);
+}
+
+void RecordCurrentException(std::string_view procedure, std::string_view module) noexcept {
+  try {
+    try {
+      throw;
+    } catch (const RuntimeError& error) {
+      RecordError(error, procedure, module);
+    } catch (const std::bad_alloc&) {
+      RecordError(RuntimeError(ErrorNumber::kOutOfMemory), procedure, module);
+    } catch (const std::out_of_range&) {
+      RecordError(RuntimeError(ErrorNumber::kSubscriptOutOfRange), procedure, module);
+    } catch (...) {
+      RecordError(RuntimeError(ErrorNumber::kInvalidProcedureCall), procedure, module);
+    }
+  } catch (...) {
+    // Logging never throws; nothing more can be done here.
+  }
+}
+
+}  // namespace vireo

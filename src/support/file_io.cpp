@@ -1,0 +1,117 @@
+#include "support/file_io.h"
+
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <system_error>
+
+#include "support/logging.h"
+#include "support/runtime_error.h"
+
+#if defined(_WIN32)
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+namespace vireo {
+namespace {
+
+std::function<void()>& BeforeRenameHook() {
+  static std::function<void()> hook;
+  return hook;
+}
+
+bool LiftReadOnly(const std::string& path) {
+  std::error_code error;
+  std::filesystem::permissions(path, std::filesystem::perms::owner_write,
+                               std::filesystem::perm_options::add, error);
+  return !error;
+}
+
+std::function<bool(const std::string&)>& ReadOnlyClearer() {
+  static std::function<bool(const std::string&)> clearer = LiftReadOnly;
+  return clearer;
+}
+
+bool IsReadOnly(const std::string& path) {
+  std::error_code error;
+  const auto status = std::filesystem::status(path, error);
+  if (error || !std::filesystem::is_regular_file(status)) return false;
+  using std::filesystem::perms;
+  return (status.permissions() & (perms::owner_write | perms::group_write |
+                                  perms::others_write)) == perms::none;
+}
+
+ErrorNumber WriteError(int error_number) {
+  return error_number == ENOSPC ? ErrorNumber::kDiskFull : ErrorNumber::kPathFileAccess;
+}
+
+void WriteAndSync(FILE* file, const std::string& content) {
+  if (std::fwrite(content.data(), 1, content.size(), file) != content.size() ||
+      std::fflush(file) != 0) {
+    throw RuntimeError(WriteError(errno));
+  }
+#if !defined(_WIN32)
+  if (fsync(fileno(file)) != 0) throw RuntimeError(WriteError(errno));
+#endif
+}
+
+}  // namespace
+
+std::string ReadWholeFile(const std::string& path) {
+  std::error_code error;
+  if (!std::filesystem::exists(path, error)) throw RuntimeError(ErrorNumber::kFileNotFound);
+  std::ifstream in(path, std::ios::binary);
+  if (!in) throw RuntimeError(ErrorNumber::kPathFileAccess);
+  std::string content;
+  in.seekg(0, std::ios::end);
+  const auto size = in.tellg();
+  if (size < 0) throw RuntimeError(ErrorNumber::kPathFileAccess);
+  content.resize(static_cast<size_t>(size));
+  in.seekg(0, std::ios::beg);
+  in.read(content.data(), size);
+  if (!in && !in.eof()) throw RuntimeError(ErrorNumber::kPathFileAccess);
+  content.resize(static_cast<size_t>(in.gcount()));
+  return content;
+}
+
+bool PrepareForOutput(const std::string& path) {
+  if (!IsReadOnly(path)) return true;
+  if (ReadOnlyClearer()(path)) return true;
+  LogAction(path + " is read only, can't change it to read write, can't update it");
+  return false;
+}
+
+void WriteFileAtomically(const std::string& path, const std::string& content) {
+  const std::string temporary = path + ".tmp";
+  FILE* file = std::fopen(temporary.c_str(), "wb");
+  if (file == nullptr) throw RuntimeError(WriteError(errno));
+  try {
+    WriteAndSync(file, content);
+    if (std::fclose(file) != 0) {
+      file = nullptr;
+      throw RuntimeError(WriteError(errno));
+    }
+    file = nullptr;
+    if (BeforeRenameHook()) BeforeRenameHook()();
+    std::error_code error;
+    std::filesystem::rename(temporary, path, error);
+    if (error) throw RuntimeError(ErrorNumber::kPathFileAccess);
+  } catch (...) {
+    if (file != nullptr) std::fclose(file);
+    std::remove(temporary.c_str());
+    throw;
+  }
+}
+
+void SetBeforeRenameHook(std::function<void()> hook) { BeforeRenameHook() = std::move(hook); }
+
+void SetReadOnlyClearer(std::function<bool(const std::string&)> clearer) {
+  ReadOnlyClearer() = clearer ? std::move(clearer) : LiftReadOnly;
+}
+
+}  // namespace vireo

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace vireo {
+
+// The whole file as bytes. Throws RuntimeError 53 (missing) or 75 (cannot be
+// read).
+std::string ReadWholeFile(const std::string& path);
+
+// The shared opening check before a file is written: a file that exists and
+// is read-only gets its read-only attribute (all write bits clear) lifted.
+// When that fails, logs "<path> is read only, can't change it to read write,
+// can't update it" and returns false.
+bool PrepareForOutput(const std::string& path);
+
+// Replaces path with content atomically: the bytes go to a temporary file in
+// the same folder, are flushed to disk, and the temporary is renamed over
+// path. On any failure the temporary is removed, path is left as it was, and
+// RuntimeError 61 (disk full) or 75 (access) is thrown.
+void WriteFileAtomically(const std::string& path, const std::string& content);
+
+// Test seams: a hook run just before the rename (throw from it to simulate a
+// crash), and the function that lifts the read-only attribute.
+void SetBeforeRenameHook(std::function<void()> hook);
+void SetReadOnlyClearer(std::function<bool(const std::string&)> clearer);
+
+}  // namespace vireo

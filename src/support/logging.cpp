@@ -1,0 +1,194 @@
+#include "support/logging.h"
+
+#include <cstdio>
+
+#include "support/version.h"
+
+#if defined(_WIN32)
+#include <windows.h>
+#else
+#include <sys/utsname.h>
+#endif
+
+namespace vireo {
+namespace {
+
+struct LogState {
+  std::string folder;
+  bool disabled = false;
+  ActionRing ring;
+  std::function<std::time_t()> clock = [] { return std::time(nullptr); };
+};
+
+LogState& State() {
+  static LogState state;
+  return state;
+}
+
+std::tm LocalNow() {
+  std::time_t now = State().clock();
+  std::tm local{};
+#if defined(_WIN32)
+  localtime_s(&local, &now);
+#else
+  localtime_r(&now, &local);
+#endif
+  return local;
+}
+
+std::string Format(const char* pattern) {
+  std::tm local = LocalNow();
+  char text[32] = {};
+  std::strftime(text, sizeof text, pattern, &local);
+  return text;
+}
+
+// The time, then blanks up to the next 14-column print zone (column 15).
+std::string Stamped(std::string_view text) {
+  std::string line = Format("%H:%M:%S");
+  line.resize(14, ' ');
+  line += text;
+  line += "\r\n";
+  return line;
+}
+
+void WriteLines(const std::string& lines, const char* mode) {
+  const std::string path = LogFilePath(State().folder);
+  if (FILE* file = std::fopen(path.c_str(), mode)) {
+    std::fwrite(lines.data(), 1, lines.size(), file);
+    std::fclose(file);
+  }
+}
+
+void Record(std::string entry, std::string_view procedure, std::string_view module) {
+  if (!procedure.empty()) (entry += " in ") += procedure;
+  if (!module.empty()) (entry += " of module ") += module;
+  ActionRing& ring = State().ring;
+  ring.text[ring.position] = std::move(entry);
+  ring.stamp[ring.position] = Format("%H:%M:%S");
+}
+
+}  // namespace
+
+std::string LogFilePath(std::string_view folder) {
+  std::string path(folder);
+  if (!path.empty() && (path.back() == '/' || path.back() == '\\')) return path + "log.txt";
+  return path + "/log.txt";
+}
+
+void SetLogFolder(std::string_view folder) { State().folder = folder; }
+const std::string& LogFolder() { return State().folder; }
+void SetLoggingDisabled(bool disabled) { State().disabled = disabled; }
+bool LoggingDisabled() { return State().disabled; }
+void SetLogClock(std::function<std::time_t()> clock) { State().clock = std::move(clock); }
+const ActionRing& Actions() { return State().ring; }
+void ClearActions() { State().ring = ActionRing{}; }
+
+void LogAction(std::string_view text, LogFile file) {
+  if (State().disabled || State().folder.empty()) return;
+  try {
+    if (file == LogFile::kNew) {
+      std::string header = Stamped("Log file created " + Format("%Y-%m-%d"));
+      header += Stamped("Operating System: " + FOSName());
+      WriteLines(header + Stamped(text), "wb");
+    } else {
+      WriteLines(Stamped(text), "ab");
+    }
+  } catch (...) {
+    // A log line that cannot be built is dropped.
+  }
+}
+
+void LogProc(std::string_view text, std::string_view procedure, std::string_view module) {
+  if (State().disabled) return;
+  try {
+    ActionRing& ring = State().ring;
+    if (++ring.position > kActionRingSize) {
+      ListActions();
+      ring.position = 1;
+    }
+    Record(std::string(text), procedure, module);
+  } catch (...) {
+  }
+}
+
+void LogDebug(std::string_view text, std::string_view procedure, std::string_view module) {
+  if (State().disabled) return;
+  try {
+    ActionRing& ring = State().ring;
+    if (++ring.position > kActionRingSize) ring.position = 1;
+    Record("DBG: " + std::string(text), procedure, module);
+  } catch (...) {
+  }
+}
+
+void ListActions() {
+  if (State().disabled) return;
+  try {
+    const ActionRing& ring = State().ring;
+    LogAction("Listing last " + std::to_string(kActionRingSize) + " actions: ");
+    auto list = [&](int from, int to) {
+      for (int i = from; i <= to; ++i) {
+        if (ring.text[i].empty()) continue;
+        LogAction(" >> " + std::to_string(i) + ": " + ring.text[i] + " - " + ring.stamp[i]);
+      }
+    };
+    list(ring.position + 1, kActionRingSize);
+    list(1, ring.position - 1);
+    LogAction("End of actions list");
+  } catch (...) {
+  }
+}
+
+std::string FOSName(const OsVersionInfo& info) {
+  using Platform = OsVersionInfo::Platform;
+  switch (info.platform) {
+    case Platform::kWindowsNt:
+      if (info.major > 6) return "WINNT6+";
+      if (info.major == 5) return info.minor == 0 ? "Win2K" : "WinXP";
+      if (info.major <= 4) return "WinNT";
+      return "";  // NT 6 matches no row of the table.
+    case Platform::kWindows9x:
+      if (info.minor == 10) return "Win98";
+      if (info.minor == 0) return "Win95";
+      if (info.minor == 90) return "WinME";
+      return "WIN32";
+    case Platform::kOther:
+      return info.other_name;
+    case Platform::kUnknown:
+      break;
+  }
+  return "";
+}
+
+OsVersionInfo CurrentOsVersion() {
+  OsVersionInfo info;
+#if defined(_WIN32)
+  OSVERSIONINFOA version{};
+  version.dwOSVersionInfoSize = sizeof version;
+#pragma warning(suppress : 4996)
+  if (GetVersionExA(&version)) {
+    info.platform = version.dwPlatformId == VER_PLATFORM_WIN32_NT
+                        ? OsVersionInfo::Platform::kWindowsNt
+                        : OsVersionInfo::Platform::kWindows9x;
+    info.major = static_cast<int>(version.dwMajorVersion);
+    info.minor = static_cast<int>(version.dwMinorVersion);
+  }
+#else
+  utsname name{};
+  if (uname(&name) == 0) {
+    info.platform = OsVersionInfo::Platform::kOther;
+    info.other_name = std::string(name.sysname) + " " + name.release;
+  }
+#endif
+  return info;
+}
+
+std::string FOSName() { return FOSName(CurrentOsVersion()); }
+
+std::string AppVersion() {
+  return std::to_string(kVersionMajor) + "." + std::to_string(kVersionMinor) + "." +
+         std::to_string(kVersionRevision);
+}
+
+}  // namespace vireo

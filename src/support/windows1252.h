@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace vireo {
+
+// Book text is Windows-1252. Codes 129, 141, 143, 144 and 157 have no
+// character; they map to the C1 control of the same number, as browsers do.
+
+// The Unicode code point of a Windows-1252 byte.
+char32_t Windows1252ToUnicode(uint8_t code);
+
+// The Windows-1252 byte of a code point, or nullopt when it has none.
+std::optional<uint8_t> UnicodeToWindows1252(char32_t code_point);
+
+// Windows-1252 bytes as UTF-8, and back ('?' for characters without a byte).
+std::string Utf8FromWindows1252(std::string_view bytes);
+
+}  // namespace vireo

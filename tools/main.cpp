@@ -1,0 +1,45 @@
+// vireo-tool: the command-line maker and inspector of Vireo ebooks.
+
+#include <cstdio>
+#include <string>
+
+#include "support/platform.h"
+#include "support/vhtml_library.h"
+#include "tool_commands.h"
+
+namespace vireo::tool {
+
+int Fail(const std::string& message) {
+  std::fprintf(stderr, "vireo-tool: %s\n", message.c_str());
+  return 1;
+}
+
+namespace {
+
+const ToolCommand kCommands[] = {
+    {"help", "help", nullptr},
+};
+
+int Usage() {
+  std::fprintf(stderr, "usage:\n");
+  for (const ToolCommand& command : kCommands) std::fprintf(stderr, "  vireo-tool %s\n", command.usage);
+  return 2;
+}
+
+}  // namespace
+}  // namespace vireo::tool
+
+int main(int argc, char* argv[]) {
+  using namespace vireo::tool;
+  if (argc < 2) return Usage();
+  const std::string name = argv[1];
+  if (!vireo::TheVHtml().Load(vireo::ProgramFolder())) {
+    return Fail(vireo::VHtmlLibrary::FileName() + " is required beside vireo-tool");
+  }
+  for (const ToolCommand& command : kCommands) {
+    if (name == command.name && command.run != nullptr) {
+      return command.run(Arguments(argv + 2, argv + argc));
+    }
+  }
+  return Usage();
+}
