@@ -46,8 +46,8 @@ class FakeSurface : public Surface {
   double ScaleHeight() const override { return height; }
 
   void DrawText(std::string_view text) override {
-    runs.push_back({std::string(text), CurrentX(), CurrentY(), bold, italic, underline,
-                    ForeColor()});
+    runs.push_back(
+        {std::string(text), CurrentX(), CurrentY(), bold, italic, underline, ForeColor()});
     SetCurrentX(CurrentX() + TextWidth(text));
   }
   void Clear() override {

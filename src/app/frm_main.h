@@ -38,8 +38,7 @@ struct ProgramLocation {
 // Module name in the log: "frmMain".
 class frmMain : public LoadFileHost {
  public:
-  frmMain(MainWindowView& view, UserInteraction& user, MessagePump& pump,
-          ProgramLocation location);
+  frmMain(MainWindowView& view, UserInteraction& user, MessagePump& pump, ProgramLocation location);
 
   // The start-up sequence. Returns false when the program must end at once
   // (the helper library is missing); the message has been shown then.

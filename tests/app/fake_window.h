@@ -12,17 +12,13 @@ namespace vireo::test {
 class FakeWindow : public MainWindowView {
  public:
   void ShowSplash() override { events.push_back("show splash"); }
-  void SetSplashStatus(std::string_view text) override {
-    splash_statuses.emplace_back(text);
-  }
+  void SetSplashStatus(std::string_view text) override { splash_statuses.emplace_back(text); }
   void UnloadSplash() override { events.push_back("unload splash"); }
   void SetExitCaption(std::string_view caption) override { exit_caption = caption; }
   uint32_t SystemWindowColour() override { return 0xFFFFFF; }
   uint32_t SystemWindowTextColour() override { return 0; }
   void UnloadAllWindows() override { events.push_back("unload windows"); }
-  void EndProgram(int status) override {
-    events.push_back("end " + std::to_string(status));
-  }
+  void EndProgram(int status) override { events.push_back("end " + std::to_string(status)); }
 
   std::vector<std::string> events;
   std::vector<std::string> splash_statuses;

@@ -53,15 +53,14 @@ TEST_F(FormLoadTest, StartsUpInOrderAndReportsTheMissingBook) {
   ASSERT_GE(log.size(), 12u);
   EXPECT_THAT(log[0], HasSubstr("Log file created "));
   EXPECT_THAT(log[1], HasSubstr("Operating System: "));
-  EXPECT_THAT(std::vector<std::string>(log.begin() + 2, log.end()),
-              ElementsAre("Startup", "Showing splash", "Registering File Extensions",
-                          "Loading Textures", "Scanning fonts", "Reading settings",
-                          "Drawing blank book", "Attempting to load Vireo",
-                          "Loading from: " + exe_, "Startup complete"));
+  EXPECT_THAT(
+      std::vector<std::string>(log.begin() + 2, log.end()),
+      ElementsAre("Startup", "Showing splash", "Registering File Extensions", "Loading Textures",
+                  "Scanning fonts", "Reading settings", "Drawing blank book",
+                  "Attempting to load Vireo", "Loading from: " + exe_, "Startup complete"));
   EXPECT_THAT(window_.splash_statuses,
-              ElementsAre("Loading Settings", "Setting up", "Loading Textures",
-                          "Scanning fonts...", "Setting up image containers...",
-                          "Reading settings", "Loading book"));
+              ElementsAre("Loading Settings", "Setting up", "Loading Textures", "Scanning fonts...",
+                          "Setting up image containers...", "Reading settings", "Loading book"));
   EXPECT_THAT(window_.events, ElementsAre("show splash", "unload splash"));
   EXPECT_THAT(user_.messages, ElementsAre("There is no ebook stored in this file."));
   EXPECT_EQ(window_.exit_caption, "Exit Vireo " + AppVersion());

@@ -23,18 +23,17 @@ TEST(Startup, TheBareReaderStartsReportsNoBookAndShutsDownInOrder) {
   test::ProgramFolder program;
   const auto result =
       test::Run(program.Path("Vireo"),
-                test::Unattended(program.folder(), {"VIREO_QUIT_AFTER_MS=300"}),
-                program.folder());
+                test::Unattended(program.folder(), {"VIREO_QUIT_AFTER_MS=300"}), program.folder());
   EXPECT_EQ(result.status, 0) << result.err;
   EXPECT_THAT(result.err, HasSubstr("There is no ebook stored in this file."));
   const std::string log = program.Log();
   EXPECT_EQ(log.find("Log file created "), 14u) << log;
-  ExpectInOrder(log, {"Operating System: ", "\r\n", "Startup\r\n", "Showing splash\r\n",
-                      "Registering File Extensions\r\n", "Loading Textures\r\n",
-                      "Scanning fonts\r\n", "Reading settings\r\n", "Drawing blank book\r\n",
-                      "Attempting to load Vireo\r\n", "Loading from: " + program.Path("Vireo"),
-                      "Startup complete\r\n", "Listing last 40 actions: \r\n",
-                      "End of actions list\r\n", "Shutdown\r\n"});
+  ExpectInOrder(log,
+                {"Operating System: ", "\r\n", "Startup\r\n", "Showing splash\r\n",
+                 "Registering File Extensions\r\n", "Loading Textures\r\n", "Scanning fonts\r\n",
+                 "Reading settings\r\n", "Drawing blank book\r\n", "Attempting to load Vireo\r\n",
+                 "Loading from: " + program.Path("Vireo"), "Startup complete\r\n",
+                 "Listing last 40 actions: \r\n", "End of actions list\r\n", "Shutdown\r\n"});
   EXPECT_TRUE(test::FileExists(program.Path("Vireo.ini")));
 }
 
@@ -50,12 +49,13 @@ TEST(Startup, TerminationAsksTheReaderToQuitAsExitDoes) {
 TEST(Startup, WithoutTheHelperLibraryTheReaderEndsBeforeAnyWindow) {
   test::ProgramFolder program;
   std::filesystem::remove(program.Path("libvHtml.so"));
-  const auto result = test::Run(program.Path("Vireo"),
-                                test::Unattended(program.folder(), {"VIREO_QUIT_AFTER_MS=300"}),
-                                program.folder());
+  const auto result =
+      test::Run(program.Path("Vireo"),
+                test::Unattended(program.folder(), {"VIREO_QUIT_AFTER_MS=300"}), program.folder());
   EXPECT_NE(result.status, 0);
-  EXPECT_THAT(result.err,
-              HasSubstr("libvHtml.so is required. This DLL is contained in the Vireo installer at "));
+  EXPECT_THAT(
+      result.err,
+      HasSubstr("libvHtml.so is required. This DLL is contained in the Vireo installer at "));
   EXPECT_FALSE(test::FileExists(program.Path("log.txt")));
   EXPECT_FALSE(test::FileExists(program.Path("Vireo.ini")));
 }

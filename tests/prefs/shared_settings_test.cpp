@@ -7,8 +7,8 @@
 
 #include "prefs/settings_get_set.h"
 #include "support/file_io.h"
-#include "support/runtime_error.h"
 #include "support/logging.h"
+#include "support/runtime_error.h"
 #include "test_support.h"
 
 namespace vireo {

@@ -45,7 +45,9 @@ TEST_F(LoggingTest, NewFileStartsWithTwoHeaderLinesAndLinesAreStampedToColumn15)
   LogAction("Reading settings");
   const std::string expected =
       "05:06:07      Log file created 2026-03-04\r\n"
-      "05:06:07      Operating System: " + FOSName() + "\r\n"
+      "05:06:07      Operating System: " +
+      FOSName() +
+      "\r\n"
       "05:06:07      Startup\r\n"
       "05:06:07      Reading settings\r\n";
   EXPECT_EQ(Log(), expected);
@@ -131,8 +133,7 @@ TEST(FOSName, FollowsTheVersionTable) {
       {P::kUnknown, 0, 0, ""},
   };
   for (const Case& c : cases) {
-    EXPECT_EQ(FOSName({c.platform, c.major, c.minor, ""}), c.name)
-        << c.major << "." << c.minor;
+    EXPECT_EQ(FOSName({c.platform, c.major, c.minor, ""}), c.name) << c.major << "." << c.minor;
   }
   EXPECT_EQ(FOSName({P::kOther, 0, 0, "Linux 6.1"}), "Linux 6.1");
 }

@@ -39,7 +39,9 @@ TEST(MyReplace, ShrinksGrowsAndLeavesTextWithoutMatchesAlone) {
 TEST(MyReplace, CarriesNulBytesAndHighCharacters) {
   std::string text = "a\0b\xff\0"s;
   MyReplace(text, "\0"s, "\x85");
-  EXPECT_EQ(text, "a\x85" "b\xff\x85");
+  EXPECT_EQ(text,
+            "a\x85"
+            "b\xff\x85");
 }
 
 TEST(MyReplaceNoCaps, IgnoresCaseIncludingAccentedLetters) {
