@@ -47,7 +47,8 @@ class PageSliderStrip : public QWidget {
     painter.drawText(labels, Qt::AlignLeft | Qt::AlignTop, QStringLiteral("1"));
     painter.drawText(labels, Qt::AlignRight | Qt::AlignTop, QString::number(num_pages));
     const double x = scale.XOf(selected_page ? selected_page() : 1);
-    const QPointF marker[] = {{x, groove_y + 6.0}, {x - 6, groove_y - 6.0}, {x + 6, groove_y - 6.0}};
+    const QPointF marker[] = {
+        {x, groove_y + 6.0}, {x - 6, groove_y - 6.0}, {x + 6, groove_y - 6.0}};
     painter.setBrush(palette().color(QPalette::Highlight));
     painter.drawPolygon(marker, 3);
   }

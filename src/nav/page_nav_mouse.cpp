@@ -33,8 +33,9 @@ PageMouseDecision DecidePageMouse(const PageMouseEvent& event, const PageMouseCo
   const bool marking = event.shift && event.button == PageMouseButton::kLeft;
   switch (event.kind) {
     case PageMouseEventKind::kDown:
-      if (marking) return LineUnder(event.y_twips, context, PageMouseAction::kMarkLine).value_or(
-                         PageMouseDecision{});
+      if (marking)
+        return LineUnder(event.y_twips, context, PageMouseAction::kMarkLine)
+            .value_or(PageMouseDecision{});
       break;
     case PageMouseEventKind::kMove:
       if (marking) {

@@ -42,9 +42,9 @@ enum class PageMouseAction {
 
 struct PageMouseDecision {
   PageMouseAction action = PageMouseAction::kNone;
-  int line = 0;              // for the line actions: 1-based line on the page
-  double band_top = 0;       // marker band, twips: (line - 1) x height + top
-  double band_bottom = 0;    // line x height + top - 10
+  int line = 0;            // for the line actions: 1-based line on the page
+  double band_top = 0;     // marker band, twips: (line - 1) x height + top
+  double band_bottom = 0;  // line x height + top - 10
   friend bool operator==(const PageMouseDecision&, const PageMouseDecision&) = default;
 };
 
