@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <string>
 
+#include "book_commands.h"
 #include "support/platform.h"
 #include "support/vhtml_library.h"
 #include "tool_commands.h"
@@ -18,11 +19,15 @@ namespace {
 
 const ToolCommand kCommands[] = {
     {"help", "help", nullptr},
+    {"make", "make TEXT -o OUT [--stub PATH] [--author A] [--title T]", RunMake},
+    {"text", "text FILE [--no-reformat] [--underscores] [--extra-line] [--brn|--bfl]", RunText},
+    {"info", "info FILE", RunInfo},
 };
 
 int Usage() {
   std::fprintf(stderr, "usage:\n");
-  for (const ToolCommand& command : kCommands) std::fprintf(stderr, "  vireo-tool %s\n", command.usage);
+  for (const ToolCommand& command : kCommands)
+    std::fprintf(stderr, "  vireo-tool %s\n", command.usage);
   return 2;
 }
 
