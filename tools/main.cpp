@@ -26,8 +26,7 @@ const ToolCommand kCommands[] = {
 
 int Usage() {
   std::fprintf(stderr, "usage:\n");
-  for (const ToolCommand& command : kCommands)
-    std::fprintf(stderr, "  vireo-tool %s\n", command.usage);
+  for (const ToolCommand& command : kCommands) std::fprintf(stderr, "  vireo-tool %s\n", command.usage);
   return 2;
 }
 
