@@ -5,6 +5,7 @@
 // (quotes before line ends, blank runs, scene breaks, word-table fragments)
 // come up often.
 
+#include <cctype>
 #include <random>
 #include <string>
 #include <vector>
@@ -34,6 +35,58 @@ inline const std::vector<std::string>& ReformattingPieces() {
       "\x84", "\x88", "*",  "* * *",  "\x84* * *", "-",  "--",   ".",    "...",  "!",
       "?",   "_",   "\xC8", " \n ",   "&",      "x"};
   return pieces;
+}
+
+}  // namespace vireo::test
+
+namespace vireo::test {
+
+// Prose-like text: sentences of common words, dialogue in quotes, lines
+// wrapped at about 72 characters, paragraphs separated by empty lines, now
+// and then a scene break, dashes, an ellipsis or an underscored word.
+inline std::string ProseLikeText(std::mt19937& random, size_t length) {
+  static const std::vector<std::string> words = {
+      "the", "and", "of", "to", "that", "in", "he", "shall", "unto", "for", "i", "his", "a",
+      "lord", "they", "be", "is", "him", "not", "them", "it", "with", "all", "thou", "thy",
+      "was", "god", "which", "my", "me", "said", "but", "ye", "their", "have", "will", "thee",
+      "from", "as", "are", "when", "this", "out", "were", "upon", "man", "you", "by", "Israel",
+      "king", "son", "there", "up", "people", "came", "house", "into", "one", "come", "before"};
+  std::uniform_int_distribution<size_t> word(0, words.size() - 1);
+  std::uniform_int_distribution<int> chance(0, 99);
+  std::string text;
+  size_t line = 0;
+  auto put = [&](const std::string& piece) {
+    if (line + piece.size() > 72) {
+      text += "\n";
+      line = 0;
+    } else if (line > 0) {
+      text += " ";
+      ++line;
+    }
+    text += piece;
+    line += piece.size();
+  };
+  while (text.size() < length) {
+    const bool speech = chance(random) < 20;
+    std::string sentence = speech ? "\"" : "";
+    const int count = 4 + chance(random) % 12;
+    for (int i = 0; i < count; ++i) {
+      std::string w = words[word(random)];
+      if (i == 0) w[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(w[0])));
+      if (chance(random) < 3) w = "_" + w + "_";
+      if (i + 1 < count && chance(random) < 8) w += chance(random) < 50 ? "," : " --";
+      put(sentence + w);
+      sentence.clear();
+    }
+    const int end = chance(random);
+    text += end < 70 ? "." : end < 80 ? "?" : end < 90 ? "!" : "...";
+    if (speech) text += "\"";
+    if (chance(random) < 20) {
+      text += chance(random) < 5 ? "\n\n\x84* * *\n\n" : "\n\n";
+      line = 0;
+    }
+  }
+  return text;
 }
 
 }  // namespace vireo::test
