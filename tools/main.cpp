@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <string>
 
+#include "book_commands.h"
 #include "support/platform.h"
 #include "support/vhtml_library.h"
 #include "tool_commands.h"
@@ -18,6 +19,9 @@ namespace {
 
 const ToolCommand kCommands[] = {
     {"help", "help", nullptr},
+    {"make", "make TEXT -o OUT [--stub PATH] [--author A] [--title T]", RunMake},
+    {"text", "text FILE [--no-reformat] [--underscores] [--extra-line] [--brn|--bfl]", RunText},
+    {"info", "info FILE", RunInfo},
 };
 
 int Usage() {
