@@ -30,7 +30,7 @@ class LiteralPaginator {
   void NewReindexFile(std::string& text, bool allow_insert, PageIndex& index,
                       int32_t reading_position, double line_width, int16_t lines_per_page,
                       double line_height) {
-    Run run{*this, text, index, reading_position, line_width, lines_per_page, line_height};
+    Run run(*this, text, index, reading_position, line_width, lines_per_page, line_height);
     Trap("sub newreindexfile", "clsReindex", [&] {
       if (!allow_insert) no_insert = true;
       busy = true;
@@ -94,6 +94,16 @@ class LiteralPaginator {
 
  private:
   struct Run {
+    Run(LiteralPaginator& owner_in, std::string& text_in, PageIndex& index_in, int32_t reading,
+        double width, int16_t lines, double height)
+        : owner(owner_in),
+          text(text_in),
+          index(index_in),
+          reading_position(reading),
+          line_width(width),
+          lines_per_page(lines),
+          line_height(height) {}
+
     LiteralPaginator& owner;
     std::string& text;
     PageIndex& index;
