@@ -14,10 +14,16 @@ int Fail(const std::string& message) {
   return 1;
 }
 
+int RunPages(const Arguments& arguments);  // cmd_pages.cpp
+
 namespace {
 
 const ToolCommand kCommands[] = {
     {"help", "help", nullptr},
+    {"pages",
+     "pages FILE|--text TEXTFILE --line-width W --lines-per-page N [--line-height H] "
+     "[--first-page 1|2] [--position P] (--metrics METRICSFILE | --font FAMILY --size PT)",
+     RunPages},
 };
 
 int Usage() {
