@@ -15,6 +15,8 @@ int Fail(const std::string& message) {
   return 1;
 }
 
+int RunPages(const Arguments& arguments);  // cmd_pages.cpp
+
 namespace {
 
 const ToolCommand kCommands[] = {
@@ -22,6 +24,10 @@ const ToolCommand kCommands[] = {
     {"make", "make TEXT -o OUT [--stub PATH] [--author A] [--title T]", RunMake},
     {"text", "text FILE [--no-reformat] [--underscores] [--extra-line] [--brn|--bfl]", RunText},
     {"info", "info FILE", RunInfo},
+    {"pages",
+     "pages FILE|--text TEXTFILE --line-width W --lines-per-page N [--line-height H] "
+     "[--first-page 1|2] [--position P] (--metrics METRICSFILE | --font FAMILY --size PT)",
+     RunPages},
 };
 
 int Usage() {
