@@ -99,6 +99,7 @@ double clsPrintPage::CalcSlice(double current_x, std::string_view rest, double l
                                double left) {
   double slice = 0;
   Trap("function calcslice", kModule, [&] {
+    Require(target_ != nullptr, ErrorNumber::kObjectNotSet);
     // The rest is measured as it will be drawn, so that the last word ends
     // exactly on the right edge.
     const double gap = left + line_width - current_x - DrawnWidth(rest);
