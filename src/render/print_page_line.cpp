@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "layout/font_metrics.h"
 #include "render/print_page.h"
 #include "render/print_page_text.h"
 #include "render/surface.h"
@@ -76,12 +77,6 @@ class MatchFinder {
   std::string term_;
 };
 
-// Collects the characters of one DrawText call and where it starts.
-struct Run {
-  std::string text;
-  double x = 0;
-};
-
 }  // namespace
 
 double clsPrintPage::DrawnWidth(std::string_view text) const {
@@ -90,7 +85,8 @@ double clsPrintPage::DrawnWidth(std::string_view text) const {
   for (const char c : text) {
     const auto code = static_cast<unsigned char>(c);
     if (SwitchStyle(code, style) || code == static_cast<unsigned char>(kCentre)) continue;
-    width += GlyphWidth(style.bold, style.italic, code);
+    width += metrics_ != nullptr ? metrics_->Width(style.bold, style.italic, code)
+                                 : GlyphWidth(style.bold, style.italic, code);
   }
   return width;
 }
@@ -165,49 +161,54 @@ void clsPrintPage::DrawLineText(const PageSettings& settings, std::string_view l
 
   TextStyle style{target.FontBold(), target.FontItalic(), target.FontUnderline()};
   double x = target.CurrentX();
-  Run run;
-  const auto flush = [&] {
-    if (run.text.empty()) return;
-    target.SetCurrentX(run.x);
-    target.DrawText(run.text);
-    run.text.clear();
+  // A run is a stretch of the line drawn with one DrawText call; it ends
+  // where the style or colour changes, and after each stretched space.
+  size_t run_begin = std::string_view::npos;
+  double run_x = 0;
+  const auto flush = [&](size_t run_end) {
+    if (run_begin == std::string_view::npos) return;
+    target.SetCurrentX(run_x);
+    target.DrawText(line.substr(run_begin, run_end - run_begin));
+    run_begin = std::string_view::npos;
     target.SetCurrentX(x);
   };
-  const auto set_colour = [&](uint32_t colour) {
+  const auto set_colour = [&](uint32_t colour, size_t index) {
     if (colour == target.ForeColor()) return;
-    flush();
+    flush(index);
     target.SetForeColor(colour);
   };
 
   bool started = false;
   for (size_t index = 0; index < line.size(); ++index) {
     if (index == match_end) {
-      set_colour(ink);
+      set_colour(ink, index);
       match_end = std::string_view::npos;
       match_start = matches->Find(index);
     }
     if (index == match_start) {
-      set_colour(settings.highlight_colour);
+      set_colour(settings.highlight_colour, index);
       match_end = index + matches->length();
     }
     const auto code = static_cast<unsigned char>(line[index]);
-    if (SwitchStyle(code, style)) {
-      flush();
+    if (SwitchStyle(code, style) || line[index] == kCentre) {
+      flush(index);
       target.SetFontBold(style.bold);
       target.SetFontItalic(style.italic);
       target.SetFontUnderline(style.underline);
       continue;
     }
-    if (line[index] == kCentre) continue;
-    if (run.text.empty()) run.x = x;
-    run.text += line[index];
-    x += GlyphWidth(style.bold, style.italic, code);
+    if (run_begin == std::string_view::npos) {
+      run_begin = index;
+      run_x = x;
+    }
+    x += metrics_ != nullptr ? metrics_->Width(style.bold, style.italic, code)
+                             : GlyphWidth(style.bold, style.italic, code);
     if (line[index] != ' ') {
       started = true;
     } else if (justify && started) {
       // Stretch the space, and recompute the slice for the rest of the line
       // from here, so that rounding never accumulates.
-      flush();
+      flush(index + 1);
       x += slice;
       target.SetCurrentX(x);
       if (index + 1 < line.size()) {
@@ -215,7 +216,7 @@ void clsPrintPage::DrawLineText(const PageSettings& settings, std::string_view l
       }
     }
   }
-  flush();
+  flush(line.size());
 }
 
 }  // namespace vireo

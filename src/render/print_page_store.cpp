@@ -24,7 +24,45 @@ constexpr std::array<std::string_view, 3> kPageNumberTags = {"[npn=r]", "[npn=n]
 constexpr char kLineFeed = '\n';
 constexpr char kPageBreak = '\x86';
 
-bool Contains(std::string_view text, char c) { return text.find(c) != std::string_view::npos; }
+// The markers a word holds, found in one pass over it.
+struct WordMarks {
+  explicit WordMarks(std::string_view word) {
+    for (const char c : word) {
+      switch (c) {
+        case kLineFeed:
+          line_feed = true;
+          break;
+        case kPageBreak:
+          page_break = true;
+          break;
+        case '\x80':
+          bold_on = true;
+          break;
+        case '\x81':
+          bold_off = true;
+          break;
+        case '\x82':
+          italic_on = true;
+          break;
+        case '\x83':
+          italic_off = true;
+          break;
+        case '[':
+          bracket = true;
+          break;  // a page-number tag or a picture
+        default:
+          break;
+      }
+    }
+  }
+  bool line_feed = false;
+  bool page_break = false;
+  bool bold_on = false;
+  bool bold_off = false;
+  bool italic_on = false;
+  bool italic_off = false;
+  bool bracket = false;
+};
 
 // The whole number at the start of text (an optional sign, then digits), 0
 // when there is none; error 6 when it does not fit 32 bits.
@@ -57,13 +95,18 @@ class PageLineComposer {
   void Run() {
     do {
       std::string word = NextWord();
-      Inspect(word);
-      Prepare(word);
+      const WordMarks marks(word);
+      Inspect(marks);
+      Prepare(word, marks);
       if (word.size() > kLongWordLength && Width(word) > settings_.line_width) SplitLongWord(word);
       LayOut(word);
-      // The closing word itself is still measured in the style.
-      if (Contains(word, '\x81')) bold_ = false;
-      if (Contains(word, '\x83')) italic_ = false;
+      // The closing word itself is still measured in the style; the codes
+      // count as they stand in the word laid out.
+      if (marks.bold_off || marks.italic_off) {
+        const WordMarks laid_out(word);
+        if (laid_out.bold_off) bold_ = false;
+        if (laid_out.italic_off) italic_ = false;
+      }
     } while (!end_of_text_);
   }
 
@@ -107,19 +150,18 @@ class PageLineComposer {
   }
 
   // Line ends and the opening style codes, read before the word is changed.
-  void Inspect(std::string_view word) {
-    const bool line_feed = Contains(word, kLineFeed);
-    const bool page_break = Contains(word, kPageBreak);
-    if (line_feed || page_break) newline_ = true;
-    ends_paragraph_ = line_feed || page_break;
-    if (Contains(word, '\x80')) bold_ = true;
-    if (Contains(word, '\x82')) italic_ = true;
+  void Inspect(const WordMarks& marks) {
+    ends_paragraph_ = marks.line_feed || marks.page_break;
+    if (ends_paragraph_) newline_ = true;
+    if (marks.bold_on) bold_ = true;
+    if (marks.italic_on) italic_ = true;
   }
 
   // Deletes the line and page markers; a placed picture becomes a paragraph
   // mark.
-  void Prepare(std::string& word) {
-    EraseChars(word, std::string_view("\n\x86", 2));
+  void Prepare(std::string& word, const WordMarks& marks) {
+    if (marks.line_feed || marks.page_break) EraseChars(word, std::string_view("\n\x86", 2));
+    if (!marks.bracket) return;
     for (const std::string_view tag : kPageNumberTags) EraseAll(word, tag);
     if (word.find("[IMG=") == std::string::npos || page_.images_ == nullptr) return;
     const int number = LeadingInteger(std::string_view(word).substr(word.find('=') + 1));
