@@ -1,0 +1,34 @@
+#include "nav/page_navigation.h"
+
+#include <algorithm>
+
+#include "support/error_trap.h"
+
+namespace vireo {
+
+PageNavigator::PageNavigator(BookDisplay& display, ReadingState& state)
+    : display_(display), state_(state) {}
+
+void PageNavigator::GotoPage(PageChooser& chooser, int32_t page_count) {
+  if (navigation_busy_ || page_count == 0) return;
+  navigation_busy_ = true;
+  Trap("sub gotopage", "frmMain", [&] {
+    const std::optional<int> chosen = chooser.ChoosePage(state_.current_page, page_count);
+    if (!chosen) return;
+    // A spread starts on an odd page.
+    int64_t page = std::min<int64_t>(*chosen, page_count);
+    if (page % 2 == 0) --page;
+    if (page < 1) page = 1;
+    display_.ClearPage(kLeftPageBox);
+    state_.current_page = page;
+    display_.PlotOnPage(PageSide::kLeft, kLeftPageBox, state_.current_page);
+    display_.ClearPage(kRightPageBox);
+    state_.current_page = page + 1;
+    display_.PlotOnPage(PageSide::kRight, kRightPageBox, state_.current_page);
+  });
+  // The flag is the last statement of the procedure and is cleared even
+  // after an error, as the error convention carries on with it.
+  navigation_busy_ = false;
+}
+
+}  // namespace vireo
