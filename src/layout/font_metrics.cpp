@@ -1,7 +1,5 @@
 #include "layout/font_metrics.h"
 
-#include <algorithm>
-
 #include "render/surface.h"
 #include "support/error_trap.h"
 
@@ -9,6 +7,7 @@ namespace vireo {
 namespace {
 
 constexpr std::string_view kModule = "clsFontMetrics";
+constexpr int kLineFeedIndex = 10 - 1;
 
 }  // namespace
 
@@ -16,14 +15,20 @@ void clsFontMetrics::FillTable(Surface& surface, bool bold, bool italic) {
   surface.SetFontBold(bold);
   surface.SetFontItalic(italic);
   surface.SetFontUnderline(false);
-  auto& table = tables_[(bold ? 1 : 0) + (italic ? 2 : 0)];
+  auto& table = tables_[TableIndex(bold, italic)];
   for (int code = 1; code <= kTableSize; ++code) {
-    if (code != 10) {
-      const char c = static_cast<char>(code);
-      table[code - 1] = surface.TextWidth(std::string_view(&c, 1));
-    }
-    // The widest character comes from the plain table only.
-    if (!bold && !italic && table[code - 1] > widest_) widest_ = table[code - 1];
+    if (code == 10) continue;
+    const char c = static_cast<char>(code);
+    table[code - 1] = surface.TextWidth(std::string_view(&c, 1));
+  }
+  table[kLineFeedIndex] = 0;
+}
+
+void clsFontMetrics::UpdateWidest() {
+  // Starts from 0 and takes only strictly greater values, code 10 included.
+  widest_ = 0;
+  for (double width : tables_[0]) {
+    if (width > widest_) widest_ = width;
   }
 }
 
@@ -31,6 +36,7 @@ void clsFontMetrics::MakeArrays(Surface& surface) {
   Trap("sub makearrays", kModule, [&] {
     widest_ = 0;
     FillTable(surface, false, false);
+    UpdateWidest();
     FillTable(surface, true, false);
     FillTable(surface, false, true);
     FillTable(surface, true, true);
@@ -40,11 +46,8 @@ void clsFontMetrics::MakeArrays(Surface& surface) {
 double clsFontMetrics::CharWidth(bool bold, bool italic, std::string_view text) const {
   double width = 0;
   Trap("function charwidth", kModule, [&] {
-    const int code = text.empty() ? 0 : static_cast<unsigned char>(text[0]);
-    if (code > kTableSize) {
-      width = widest_;
-      return;
-    }
+    Require(!text.empty(), ErrorNumber::kInvalidProcedureCall);
+    const int code = static_cast<unsigned char>(text[0]);
     Require(code >= 1, ErrorNumber::kSubscriptOutOfRange);
     width = Table(bold, italic)[code - 1];
   });
@@ -54,15 +57,22 @@ double clsFontMetrics::CharWidth(bool bold, bool italic, std::string_view text) 
 double clsFontMetrics::WordWidth(bool bold, bool italic, std::string_view word) const {
   double width = 0;
   Trap("function wordwidth", kModule, [&] {
-    for (size_t i = 0; i < word.size(); ++i) width += CharWidth(bold, italic, word.substr(i, 1));
+    const auto& table = Table(bold, italic);
+    for (char c : word) {
+      const auto code = static_cast<unsigned char>(c);
+      // Code 0 goes through CharWidth so that its error is logged; it adds 0.
+      width += code == 0 ? CharWidth(bold, italic, std::string_view(&c, 1)) : table[code - 1];
+    }
   });
   return width;
 }
 
 void clsFontMetrics::SetTable(bool bold, bool italic,
                               const std::array<double, kTableSize>& widths) {
-  tables_[(bold ? 1 : 0) + (italic ? 2 : 0)] = widths;
-  if (!bold && !italic) widest_ = *std::max_element(widths.begin(), widths.end());
+  auto& table = tables_[TableIndex(bold, italic)];
+  table = widths;
+  table[kLineFeedIndex] = 0;
+  if (!bold && !italic) UpdateWidest();
 }
 
 }  // namespace vireo

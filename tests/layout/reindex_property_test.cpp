@@ -1,0 +1,252 @@
+// The linear paginator against the literal one (literal_paginator.h) on many
+// random texts, font tables and page geometries: identical page index, text
+// insertions, events and yields. And, on ordinary prose, the shape every
+// page index must have.
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "layout/reindex.h"
+#include "literal_paginator.h"
+#include "pagination_fixtures.h"
+#include "support/user_interaction.h"
+
+namespace vireo {
+namespace {
+
+using test::EventRecorder;
+using test::LiteralPaginator;
+
+class CountingPump : public MessagePump {
+ public:
+  void Yield() override { ++yields; }
+  void SleepMilliseconds(int) override {}
+  int yields = 0;
+};
+
+struct Case {
+  std::string text;
+  clsFontMetrics metrics;
+  InsertMode insert = InsertMode::kAllowed;
+  int32_t first_page = 1;
+  int32_t reading_position = 1;
+  double line_width = 0;
+  int16_t lines_per_page = 1;
+  double line_height = 100;
+  ImageHeightFunction heights;
+};
+
+struct Outcome {
+  std::string text;
+  PageIndex index;
+  std::vector<std::string> events;
+  int yields = 0;
+};
+
+Outcome RunFast(const Case& c) {
+  Outcome out;
+  out.text = c.text;
+  out.index.count = c.first_page;
+  clsReindex reindex;
+  reindex.FontMetrics() = c.metrics;
+  EventRecorder recorder(out.index, [&] { return reindex.Busy(); });
+  CountingPump pump;
+  reindex.SetEvents(&recorder);
+  reindex.SetMessagePump(&pump);
+  reindex.SetImageHeights(c.heights);
+  reindex.NewReindexFile(out.text, c.insert, out.index, c.reading_position, c.line_width,
+                         c.lines_per_page, c.line_height);
+  out.events = recorder.events;
+  out.yields = pump.yields;
+  return out;
+}
+
+Outcome RunLiteral(const Case& c) {
+  Outcome out;
+  out.text = c.text;
+  out.index.count = c.first_page;
+  LiteralPaginator literal;
+  literal.metrics = c.metrics;
+  EventRecorder recorder(out.index, [&] { return literal.busy; });
+  literal.events = &recorder;
+  literal.image_heights = c.heights;
+  literal.NewReindexFile(out.text, c.insert == InsertMode::kAllowed, out.index, c.reading_position,
+                         c.line_width, c.lines_per_page, c.line_height);
+  out.events = recorder.events;
+  out.yields = literal.yields;
+  return out;
+}
+
+class Generator {
+ public:
+  explicit Generator(uint32_t seed) : random_(seed) {}
+
+  int Int(int low, int high) { return std::uniform_int_distribution<int>(low, high)(random_); }
+  bool Chance(int percent) { return Int(1, 100) <= percent; }
+
+  std::string Letters(int length) {
+    std::string word;
+    for (int i = 0; i < length; ++i) word += static_cast<char>('a' + Int(0, 25));
+    return word;
+  }
+
+  // Prose with every kind of code the paginator reads.
+  std::string AnyText() {
+    std::string text;
+    const int tokens = Int(0, 120);
+    for (int i = 0; i < tokens; ++i) {
+      if (!text.empty()) text += Chance(90) ? " " : "  ";
+      const int kind = Int(0, 99);
+      if (kind < 50) {
+        text += Letters(Int(1, 8));
+      } else if (kind < 58) {
+        text += Letters(Int(15, 50));
+      } else if (kind < 64) {
+        text += Letters(Int(0, 4)) + "-" + Letters(Int(0, 4)) + (Chance(30) ? "-" : "");
+      } else if (kind < 72) {
+        text += "\n";
+      } else if (kind < 84) {
+        text += static_cast<char>(Int(128, 136)) + Letters(Int(0, 5));
+        if (Chance(40)) text += static_cast<char>(Int(128, 136));
+      } else if (kind < 88) {
+        text += "\x86";
+      } else if (kind < 94) {
+        text += Letters(Int(0, 2)) + "[IMG=" + std::to_string(Int(0, 4)) + (Chance(80) ? "]" : "");
+      } else if (kind < 96) {
+        text += Letters(1) + std::string(1, '\0') + Letters(1);
+      } else {
+        text += Letters(Int(2, 6)) + "\n" + Letters(Int(0, 30));
+      }
+    }
+    if (Chance(10) && !text.empty()) text.insert(0, " ");
+    return text;
+  }
+
+  clsFontMetrics Metrics(bool allow_negative) {
+    clsFontMetrics metrics;
+    const int mode = Int(0, 2);
+    for (int style = 0; style < 4; ++style) {
+      std::array<double, clsFontMetrics::kTableSize> table;
+      for (double& width : table) {
+        if (mode == 0) {
+          width = Int(5, 20) * 10.0;  // whole numbers: exact fits happen
+        } else if (mode == 1) {
+          width = Int(0, 3000) / 7.0;  // fractions: sums depend on their order
+        } else {
+          width = Int(0, 2) * 75.0;
+        }
+        if (allow_negative && Chance(5)) width = -width - 1;
+      }
+      metrics.SetTable(style & 1, style & 2, table);
+    }
+    return metrics;
+  }
+
+  Case AnyCase() {
+    Case c;
+    c.text = AnyText();
+    c.metrics = Metrics(Chance(10));
+    c.insert = Chance(80) ? InsertMode::kAllowed : InsertMode::kNotAllowed;
+    c.first_page = Chance(30) ? 2 : 1;
+    c.reading_position = Int(0, static_cast<int>(c.text.size()) + 2);
+    c.line_width = Chance(50) ? Int(0, 40) * 100.0 : Int(0, 400000) / 97.0;
+    static constexpr int16_t kLines[] = {-1, 0, 1, 1, 2, 3, 3, 5, 8, 30};
+    c.lines_per_page = kLines[Int(0, 9)];
+    static constexpr double kLineHeights[] = {100, 100, 240, 0};
+    c.line_height = kLineHeights[Int(0, 3)];
+    static constexpr double kHeights[] = {0, 50, 150, 250, 290, 1000, 5000};
+    const int missing = Int(0, 4);
+    const double height = kHeights[Int(0, 6)];
+    c.heights = [missing, height](int32_t n) -> std::optional<double> {
+      if (n == missing) return std::nullopt;
+      return height + n * 100;
+    };
+    return c;
+  }
+
+ private:
+  std::mt19937 random_;
+};
+
+void ExpectSame(const Outcome& fast, const Outcome& literal, int case_number) {
+  SCOPED_TRACE("case " + std::to_string(case_number));
+  ASSERT_EQ(fast.index.count, literal.index.count);
+  ASSERT_EQ(fast.index.UpperBound(), literal.index.UpperBound());
+  for (int32_t p = 1; p <= fast.index.UpperBound(); ++p) {
+    ASSERT_EQ(fast.index.PageStart(p), literal.index.PageStart(p)) << "page " << p;
+    ASSERT_EQ(fast.index.Bold(p), literal.index.Bold(p)) << "page " << p;
+    ASSERT_EQ(fast.index.Italic(p), literal.index.Italic(p)) << "page " << p;
+    ASSERT_EQ(fast.index.Underline(p), literal.index.Underline(p)) << "page " << p;
+  }
+  ASSERT_EQ(fast.text, literal.text);
+  ASSERT_EQ(fast.events, literal.events);
+  ASSERT_EQ(fast.yields, literal.yields);
+}
+
+TEST(ReindexProperties, LinearPaginatorMatchesTheLiteralRules) {
+  Generator generator(20240611);
+  for (int i = 0; i < 1500; ++i) {
+    const Case c = generator.AnyCase();
+    ExpectSame(RunFast(c), RunLiteral(c), i);
+    if (HasFatalFailure()) return;
+  }
+}
+
+// Prose whose words all fit a line, without hyphens, images, page breaks or a
+// delimiter in front: the index then has its plain shape. (Long words split
+// over several pages, hyphenated runs and images may repeat a start; a page
+// opened by the first word starts at 0. Those are rules, not faults.)
+TEST(ReindexProperties, OrdinaryProseGivesIncreasingStartsOnDelimitersCoveringTheText) {
+  Generator generator(77);
+  for (int i = 0; i < 400; ++i) {
+    SCOPED_TRACE("case " + std::to_string(i));
+    Case c;
+    const int words = generator.Int(2, 300);
+    for (int w = 0; w < words; ++w) {
+      if (w > 0) c.text += generator.Chance(8) ? " \n " : " ";
+      if (w > 0 && generator.Chance(10)) c.text += static_cast<char>(generator.Int(128, 136));
+      c.text += generator.Letters(generator.Int(1, 10));
+      if (c.text.back() == '\x86') c.text += 'a';
+    }
+    for (char& ch : c.text) {
+      if (ch == '\x86') ch = 'z';
+    }
+    c.metrics = generator.Metrics(false);
+    double widest = 0;
+    for (int style = 0; style < 4; ++style) {
+      for (double width : c.metrics.Table(style & 1, style & 2)) widest = std::max(widest, width);
+    }
+    c.line_width = widest * (12 + generator.Int(0, 40));
+    c.lines_per_page = static_cast<int16_t>(generator.Int(1, 12));
+    c.first_page = generator.Chance(30) ? 2 : 1;
+    c.reading_position = generator.Int(1, static_cast<int>(c.text.size()));
+
+    const Outcome fast = RunFast(c);
+    ExpectSame(fast, RunLiteral(c), i);
+    const PageIndex& index = fast.index;
+    const auto length = static_cast<int32_t>(c.text.size());
+    ASSERT_EQ(fast.text, c.text);
+    if (c.first_page == 2) {
+      ASSERT_EQ(index.PageStart(1), 0);
+    }
+    ASSERT_EQ(index.PageStart(c.first_page), 1);
+    for (int32_t p = c.first_page + 1; p <= index.count; ++p) {
+      const int32_t start = index.PageStart(p);
+      ASSERT_GT(start, index.PageStart(p - 1)) << "page " << p;
+      ASSERT_LE(start, length) << "page " << p;
+      if (p < index.count || start < length) {
+        const char at = c.text[static_cast<size_t>(start - 1)];
+        ASSERT_TRUE(at == ' ' || at == '\n') << "page " << p << " starts on a word";
+      }
+    }
+    // PassedPage exactly once, before FinishedReindex which comes last.
+    ASSERT_EQ(std::count_if(fast.events.begin(), fast.events.end(),
+                            [](const std::string& e) { return e.rfind("passed", 0) == 0; }),
+              1);
+    ASSERT_EQ(fast.events.back(), "finished at " + std::to_string(index.count));
+  }
+}
+
+}  // namespace
+}  // namespace vireo

@@ -1,0 +1,150 @@
+#include "render/qt_surface_qt.h"
+
+#include <gtest/gtest.h>
+
+#include <QFontInfo>
+#include <QRect>
+
+#include "layout/font_metrics.h"
+
+namespace vireo {
+namespace {
+
+QtSurface BookSurface(int width = 400, int height = 200) {
+  QtSurface surface(width, height);
+  surface.SetFontName("Times New Roman");
+  surface.SetFontSize(12);
+  return surface;
+}
+
+// The bounding box of every pixel that is not the back colour.
+QRect InkBounds(const QImage& image, QRgb back) {
+  QRect bounds;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      if (image.pixel(x, y) != back) bounds |= QRect(x, y, 1, 1);
+    }
+  }
+  return bounds;
+}
+
+TEST(QtSurface, TimesNewRomanResolvesToItsMetricTwin) {
+  const QtSurface surface = BookSurface();
+  EXPECT_EQ(QFontInfo(surface.font()).family(), "Liberation Serif");
+}
+
+TEST(QtSurface, WidthsAreTwipsOfTheAdvanceAndAddUpOverARun) {
+  QtSurface surface = BookSurface();
+  const QFontMetricsF metrics(surface.font(), &surface.image());
+  EXPECT_DOUBLE_EQ(surface.TextWidth("Reader"), metrics.horizontalAdvance("Reader") * 15);
+  EXPECT_DOUBLE_EQ(surface.TextHeight("Reader"), metrics.height() * 15);
+  // No kerning: "AV" is exactly "A" plus "V".
+  EXPECT_DOUBLE_EQ(surface.TextWidth("AV"), surface.TextWidth("A") + surface.TextWidth("V"));
+  // 12 points at 96 dpi is 16 pixels: an em dash (code 151) is one em.
+  EXPECT_NEAR(surface.TextWidth("\x97"), 16 * 15, 15);
+}
+
+TEST(QtSurface, BoldIsWiderThanPlainAndUnderlineChangesNothing) {
+  QtSurface surface = BookSurface();
+  const double plain = surface.TextWidth("Hello world");
+  surface.SetFontUnderline(true);
+  EXPECT_DOUBLE_EQ(surface.TextWidth("Hello world"), plain);
+  surface.SetFontUnderline(false);
+  surface.SetFontBold(true);
+  EXPECT_GT(surface.TextWidth("Hello world"), plain);
+}
+
+TEST(QtSurface, FontTablesFromTheSurface) {
+  QtSurface surface = BookSurface();
+  clsFontMetrics metrics;
+  metrics.MakeArrays(surface);
+  EXPECT_TRUE(surface.FontBold());
+  EXPECT_TRUE(surface.FontItalic());
+  surface.SetFontBold(false);
+  surface.SetFontItalic(false);
+  EXPECT_DOUBLE_EQ(metrics.WordWidth(false, false, "Reader"), surface.TextWidth("Reader"));
+  EXPECT_GT(metrics.CharWidth(true, false, "m"), metrics.CharWidth(false, false, "m"));
+  EXPECT_EQ(metrics.CharWidth(false, false, "\n"), 0);
+}
+
+TEST(QtSurface, TextIsDrawnInTheInkColourOnlyWithinItsLine) {
+  QtSurface surface = BookSurface();
+  surface.SetBackColor(0x00FFFFFF);
+  surface.Clear();
+  surface.SetForeColor(0x000000FF);  // red
+  surface.SetCurrentX(300);
+  surface.SetCurrentY(450);
+  surface.DrawText("Hello");
+  const double width = surface.TextWidth("Hello");
+  EXPECT_DOUBLE_EQ(surface.CurrentX(), 300 + width);
+
+  const QRect ink = InkBounds(surface.image(), qRgb(255, 255, 255));
+  ASSERT_FALSE(ink.isNull());
+  const QRect line(20, 30, static_cast<int>(width / 15) + 1,
+                   static_cast<int>(surface.TextHeight("") / 15));
+  EXPECT_TRUE(line.adjusted(-1, -1, 1, 1).contains(ink)) << "ink outside the line box";
+  EXPECT_GT(ink.width(), line.width() / 2);
+  bool red = false;
+  for (int y = ink.top(); y <= ink.bottom(); ++y) {
+    for (int x = ink.left(); x <= ink.right(); ++x) {
+      const QColor c = surface.image().pixelColor(x, y);
+      EXPECT_GE(c.red(), c.green());
+      red = red || (c.red() == 255 && c.green() < 64 && c.blue() < 64);
+    }
+  }
+  EXPECT_TRUE(red);
+}
+
+TEST(QtSurface, TextIsDrawnTransparently) {
+  QtSurface surface = BookSurface(100, 40);
+  surface.SetBackColor(0x00008000);  // green
+  surface.Clear();
+  surface.DrawText("i");
+  EXPECT_EQ(surface.image().pixelColor(90, 35), QColor(0, 128, 0));
+  EXPECT_EQ(surface.image().pixelColor(0, 0), QColor(0, 128, 0));
+}
+
+TEST(QtSurface, ClearPaintsTheBackColourAndTheTextureOnceUnscaled) {
+  QtSurface surface(40, 40);
+  QImage texture(10, 10, QImage::Format_ARGB32_Premultiplied);
+  texture.fill(QColor(0, 0, 255));
+  surface.SetBackColor(0x0000FF00);
+  surface.SetTexture(texture);
+  surface.SetCurrentX(99);
+  surface.Clear();
+  EXPECT_EQ(surface.image().pixelColor(9, 9), QColor(0, 0, 255));
+  EXPECT_EQ(surface.image().pixelColor(10, 10), QColor(0, 255, 0));
+  EXPECT_EQ(surface.image().pixelColor(35, 5), QColor(0, 255, 0));
+  EXPECT_EQ(surface.CurrentX(), 0);
+}
+
+TEST(QtSurface, GeometryIsInTwipsOfLogicalPixels) {
+  QtSurface surface(200, 100, 2.0);
+  EXPECT_EQ(surface.image().width(), 400);
+  EXPECT_DOUBLE_EQ(surface.ScaleWidth(), 3000);
+  EXPECT_DOUBLE_EQ(surface.ScaleHeight(), 1500);
+}
+
+TEST(QtSurface, DrawingIsDeterministic) {
+  QtSurface first = BookSurface();
+  QtSurface second = BookSurface();
+  for (QtSurface* surface : {&first, &second}) {
+    surface->Clear();
+    surface->SetFontItalic(true);
+    surface->DrawText("The quick brown fox \x96 \x80 5");
+  }
+  EXPECT_EQ(first.image(), second.image());
+}
+
+TEST(QtSurface, DrawsOnTheCallersImage) {
+  QImage page(50, 20, QImage::Format_RGB32);
+  page.fill(Qt::white);
+  QtSurface surface(&page);
+  surface.SetBackColor(0x00000000);
+  surface.Clear();
+  EXPECT_EQ(page.format(), QImage::Format_ARGB32_Premultiplied);
+  EXPECT_EQ(page.pixelColor(25, 10), QColor(0, 0, 0));
+}
+
+}  // namespace
+}  // namespace vireo
