@@ -6,6 +6,25 @@
 
 namespace vireo {
 
+Int16 WhichPage(const PageIndex& index, int32_t position) {
+  Int16 page = 0;
+  Trap("function whichpage", "frmMain", [&] {
+    if (position == 0) {
+      page = -1;
+      return;
+    }
+    // A plain scan: "the first page whose start lies beyond" is kept exactly,
+    // whatever order the starts are in.
+    for (int32_t p = 1; p <= index.count; ++p) {
+      if (index.PageStart(p) > position) {
+        page = p - 1;
+        return;
+      }
+    }
+  });
+  return page;
+}
+
 PageNavigator::PageNavigator(BookDisplay& display, ReadingState& state)
     : display_(display), state_(state) {}
 

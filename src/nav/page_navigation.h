@@ -3,11 +3,21 @@
 #include <cstdint>
 #include <optional>
 
+#include "layout/page_index.h"
 #include "render/book_display.h"
 #include "render/page_cache.h"
 #include "support/checked_int16.h"
 
 namespace vireo {
+
+// The page a 1-based character position lies on: -1 for position 0 (no
+// position); otherwise p - 1 for the first page p (1..count) whose start lies
+// beyond the position, and 0 when none does, i.e. for a position on the last
+// page. Callers clamp results below 1 to page 1 and above the count to the
+// count, so a position on the last page lands on page 1. An error (a page
+// number beyond 16 bits) is logged as "function whichpage" of "frmMain" and
+// gives 0.
+Int16 WhichPage(const PageIndex& index, int32_t position);
 
 // The page dialog frmPageNav as GotoPage sees it.
 class PageChooser {

@@ -14,6 +14,35 @@ namespace {
 
 using test::FakeBookDisplay;
 
+// Four pages starting at 1, 120, 250 and 380.
+PageIndex FourPages() {
+  PageIndex index;
+  index.count = 4;
+  const int32_t starts[] = {1, 120, 250, 380};
+  for (int32_t p = 1; p <= 4; ++p) index.SetPageStart(p, starts[p - 1]);
+  return index;
+}
+
+TEST(WhichPage, MapsPositionsToThePageBeforeTheFirstLaterStart) {
+  const PageIndex index = FourPages();
+  EXPECT_EQ(WhichPage(index, 0), -1);
+  EXPECT_EQ(WhichPage(index, 1), 1);
+  EXPECT_EQ(WhichPage(index, 119), 1);
+  EXPECT_EQ(WhichPage(index, 120), 2) << "a page start belongs to the page it opens";
+  EXPECT_EQ(WhichPage(index, 379), 3);
+  EXPECT_EQ(WhichPage(index, 380), 0) << "on the last page";
+  EXPECT_EQ(WhichPage(index, 5000), 0);
+}
+
+TEST(WhichPage, ATitlePageIsNeverTheAnswerForTextPositions) {
+  PageIndex index;
+  index.count = 3;  // page 1 is the title page and starts at 0
+  index.SetPageStart(2, 1);
+  index.SetPageStart(3, 200);
+  EXPECT_EQ(WhichPage(index, 1), 2);
+  EXPECT_EQ(WhichPage(index, 199), 2);
+}
+
 class FakeChooser : public PageChooser {
  public:
   std::optional<int> ChoosePage(int current_page, int page_count) override {
