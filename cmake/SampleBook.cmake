@@ -1,8 +1,10 @@
 # Sample books for trying the reader and for the benchmarks, made at build
 # time from Debian's bible-kjv package (the `bible` program) when it is
 # installed and the reader itself is built:
-#   bin/samples/genesis.txt, bin/samples/Genesis  (the book of Genesis)
-#   bin/samples/kjv.txt, bin/samples/Bible        (the whole text, ~4.3 MB)
+#   bin/samples/genesis.txt, bin/Genesis  (the book of Genesis)
+#   bin/samples/kjv.txt, bin/Bible        (the whole text, ~4.3 MB)
+# The ebooks sit in the program's folder, beside the helper library and the
+# paper textures they need.
 # Nothing of the text is kept in the repository.
 #
 # Run as a script (cmake -P) it writes one passage to a file:
@@ -28,7 +30,7 @@ set(sample_outputs "")
 # vireo_sample_book(TEXT_NAME BOOK_NAME PASSAGE TITLE)
 function(vireo_sample_book text_name book_name passage title)
   set(text ${VIREO_SAMPLES_DIR}/${text_name})
-  set(book ${VIREO_SAMPLES_DIR}/${book_name})
+  set(book ${CMAKE_BINARY_DIR}/bin/${book_name})
   add_custom_command(
     OUTPUT ${text}
     COMMAND ${CMAKE_COMMAND} -E make_directory ${VIREO_SAMPLES_DIR}

@@ -7,7 +7,7 @@ scripts/setup.sh
 scripts/build.sh release
 bin="build/release/bin"
 book="$bin/Vireo"
-[ -x "$bin/samples/Genesis" ] && book="$bin/samples/Genesis"
+[ -x "$bin/Genesis" ] && book="$bin/Genesis"
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
   exec "$book"
 fi

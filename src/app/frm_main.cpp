@@ -1,9 +1,12 @@
 #include "app/frm_main.h"
 
 #include "app/file_types.h"
+#include "nav/bookmarks.h"
+#include "render/book_view.h"
 #include "prefs/settings_get_set.h"
 #include "support/error_trap.h"
 #include "support/logging.h"
+#include "support/maker.h"
 #include "support/platform.h"
 #include "support/translation.h"
 #include "support/vhtml_library.h"
@@ -13,14 +16,24 @@ namespace {
 
 constexpr std::string_view kModule = "frmMain";
 
-// The maker's home page, named in the helper-library message.
-constexpr std::string_view kMakerHomePage = "https://vireo-reader.example.org";
-
 }  // namespace
 
 frmMain::frmMain(MainWindowView& view, UserInteraction& user, MessagePump& pump,
                  ProgramLocation location)
-    : view_(view), user_(user), pump_(pump), location_(std::move(location)) {}
+    : view_(view),
+      user_(user),
+      pump_(pump),
+      location_(std::move(location)),
+      composer_(pump),
+      plotter_(*this, prefs_, composer_, reindex_.FontMetrics()),
+      cache_(*this, pump, reading_),
+      turner_(*this, pump, cache_, reading_, turn_settings_),
+      navigator_(*this, reading_) {
+  reindex_.SetEvents(this);
+  reindex_.SetMessagePump(&pump);
+}
+
+frmMain::~frmMain() = default;
 
 std::string frmMain::ExitCaption() { return "Exit Vireo " + AppVersion(); }
 
@@ -28,37 +41,6 @@ std::string frmMain::ProgramFolderString(const std::string& folder) {
   if (!folder.empty() && (folder.back() == '\\' || folder.back() == '/')) return "C:";
   return folder;
 }
-
-void frmMain::ShowLoadMessage(std::string_view text) { user_.ShowMessage(text, "Vireo"); }
-
-void frmMain::ShowProgress(std::string_view caption, int value, int maximum) {
-  const int percent = maximum > 0 ? value * 100 / maximum : 0;
-  view_.SetSplashStatus(std::string(caption) + " " + std::to_string(percent) + "%");
-  pump_.Yield();
-}
-
-FormattingOptions frmMain::Formatting() { return {reformat_, underscores_, extra_line_}; }
-
-void frmMain::BookLoaded(std::string text, std::string author, std::string title) {
-  book_text_ = std::move(text);
-  author_ = std::move(author);
-  title_ = std::move(title);
-  // FIXME: the window shows the caption once the view has a caption call.
-  caption_ = title_;
-  book_loaded_ = true;
-  book_menus_enabled_ = true;
-}
-
-void frmMain::ReadBookmark() {
-  // FIXME: picks up the reading position from the bookmarks once they land.
-}
-
-void frmMain::ReindexFile(bool keep_position) {
-  // FIXME: runs the paginator once it lands.
-  static_cast<void>(keep_position);
-}
-
-void frmMain::HideLanguageList() { language_list_visible_ = false; }
 
 bool frmMain::CheckRequiredLibrary() {
   if (TheVHtml().Load(location_.folder)) return true;
@@ -94,12 +76,14 @@ bool frmMain::Form_Load() {
 
 void frmMain::RunStartupSteps() {
   StartupStep([&] { settings_path_ = JoinPath(location_.folder, "Vireo.ini"); });
-  StartupStep([&] { LogAction("Resetting cache"); });
+  StartupStep([&] {
+    LogAction("Resetting cache");
+    cache_.ResetCache();
+  });
   StartupStep([&] { LogAction("Setting up"); });
   StartupStep([&] {
     LogAction("Startup", LogFile::kNew);
-    default_paper_colour_ = view_.SystemWindowColour();
-    default_ink_colour_ = view_.SystemWindowTextColour();
+    system_colours_ = {view_.SystemWindowColour(), view_.SystemWindowTextColour()};
   });
   StartupStep([&] {
     LogAction("Showing splash");
@@ -110,7 +94,9 @@ void frmMain::RunStartupSteps() {
     view_.SetSplashStatus("Loading Settings");
     pump_.Yield();
     LoadSettings(settings_path_);
+    SetBookmarksFolder(location_.folder);
   });
+  // FIXME: the language list and menu are filled once translation files land.
   StartupStep([&] { view_.SetSplashStatus("Setting up"); });
   StartupStep([&] {
     LogAction(GetTranslation("Registering File Extensions"));
@@ -119,31 +105,56 @@ void frmMain::RunStartupSteps() {
   StartupStep([&] {
     view_.SetSplashStatus(GetTranslation("Loading Textures"));
     LogAction(GetTranslation("Loading Textures"));
+    LoadPaperTextures();
   });
   StartupStep([&] {
     LogAction("Scanning fonts");
     view_.SetSplashStatus("Scanning fonts...");
   });
+  // FIXME: the image store is created here once pictures in books land.
   StartupStep([&] { view_.SetSplashStatus("Setting up image containers..."); });
   StartupStep([&] { program_folder_ = ProgramFolderString(location_.folder); });
   StartupStep([&] {
     view_.SetSplashStatus("Reading settings");
     LogAction("Reading settings");
+    ReadSettings(prefs_, *this, system_colours_);
+    turn_settings_.instant_page_turn = prefs_.instant_page_turn;
+    turn_settings_.page_sweep_width = prefs_.page_sweep_width;
+    reading_.mode = prefs_.single_page_mode ? PageMode::kSingle : PageMode::kDouble;
+    for (int box = 0; box < kBoxCount; ++box) plotter_.SetTexture(box);
   });
-  StartupStep([&] { reformat_ = sget("Reformat", true).ToBoolean(); });
-  StartupStep([&] { LogAction("Drawing blank book"); });
+  StartupStep([&] {
+    reformat_ = sget("Reformat", true).ToBoolean();
+    view_.SetMenuTick("mnuFormatting", reformat_);
+  });
+  StartupStep([&] {
+    LogAction("Drawing blank book");
+    LayOutBook();
+  });
   StartupStep([&] {
     LogAction("Attempting to load Vireo" + std::string(kExecutableSuffix));
     view_.SetSplashStatus("Loading book");
     pump_.Yield();
   });
-  StartupStep([&] { busy_ = false; });
-  StartupStep([&] { LoadFile(location_.executable_path, *this); });
+  StartupStep([&] {
+    DrawTitlePage();
+    ReadDefaultPath(prefs_, location_.folder);
+    busy_ = false;
+  });
+  StartupStep([&] { OpenBook(location_.executable_path); });
   StartupStep([&] { view_.SetExitCaption(ExitCaption()); });
   StartupStep([&] {
     LogAction("Startup complete");
     pump_.Yield();
     view_.UnloadSplash();
+  });
+}
+
+void frmMain::LoadPaperTextures() {
+  Trap("sub loadtextures", kModule, [&] {
+    for (const TextureFile& file : LoadTextures(location_.folder)) {
+      view_.LoadTexture(file.slot, file.path);
+    }
   });
 }
 
@@ -156,7 +167,7 @@ void frmMain::Quit() {
 }
 
 void frmMain::StoreSettings() {
-  Trap("sub storesettings", kModule, [&] { savesettings(settings_path_); });
+  Trap("sub storesettings", kModule, [&] { vireo::StoreSettings(prefs_, *this, settings_path_); });
 }
 
 void frmMain::ClosingRoutine() {
@@ -169,7 +180,7 @@ void frmMain::ClosingRoutine() {
 bool frmMain::Form_QueryUnload(bool closed_by_user) {
   bool cancel = false;
   Trap("sub form_queryunload", kModule, [&] {
-    if (paginator_busy_) {
+    if (reindex_.Busy()) {
       cancel = true;
       return;
     }

@@ -72,11 +72,17 @@ TEST_F(FormLoadTest, StartsUpInOrderAndReportsTheMissingBook) {
 
 TEST_F(FormLoadTest, QuitStoresTheSettingsThenShutsDownInOrder) {
   ASSERT_TRUE(main_.Form_Load());
-  sset("FontName", "Arial");
   window_.events.clear();
   main_.Quit();
   EXPECT_THAT(window_.events, ElementsAre("unload windows", "end 0"));
-  EXPECT_EQ(test::ReadFile(folder_.File("Vireo.ini")), "FONTNAME,Arial\r\n");
+  // A first run writes every preference of the shutdown list, sorted.
+  EXPECT_EQ(test::ReadFile(folder_.File("Vireo.ini")),
+            "BARHIDDEN,False\r\nEXTRAPARAGRAPHLINE,False\r\nFONTNAME,Times New Roman\r\n"
+            "FONTSIZE,10\r\nHLCOLOUR,45056\r\nINDENTED,True\r\nINKCOLOUR,0\r\nJUSTIFY,True\r\n"
+            "PAPERCOLOUR,16777215\r\nPATH," +
+                folder_.str() +
+                "\r\nPNCOLOUR,8421504\r\nSINGLEPAGEMODE,False\r\nUNDERSCORES,False\r\n"
+                "WINHEIGHT,6570\r\nWINWIDTH,9500\r\n");
   const auto log = LogTexts(test::ReadFile(folder_.File("log.txt")));
   ASSERT_GE(log.size(), 3u);
   EXPECT_EQ(log[log.size() - 1], "Shutdown");

@@ -78,8 +78,9 @@ TEST(BookTools, MakeThenTextGivesTheReformattedText) {
 
 TEST(BookTools, TheSampleBookGivesTheReformattedSampleText) {
   const std::string samples = test::BinFolder() + "/samples";
-  if (!std::filesystem::exists(samples + "/Genesis")) GTEST_SKIP() << "no sample book built";
-  ExpectTextOfBook(samples + "/Genesis", test::ReadFile(samples + "/genesis.txt"));
+  const std::string book = test::BinFolder() + "/Genesis";
+  if (!std::filesystem::exists(book)) GTEST_SKIP() << "no sample book built";
+  ExpectTextOfBook(book, test::ReadFile(samples + "/genesis.txt"));
 }
 
 TEST(BookTools, BadInputFailsWithAMessageAndNoFile) {

@@ -1,0 +1,177 @@
+#include "app/book_canvas_widget.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <algorithm>
+
+namespace vireo {
+namespace {
+
+double Pixels(double twips) { return twips / BookCanvasWidget::kTwipsPerPixel; }
+
+QImage BlankBuffer(double width_twips, double height_twips, qreal ratio) {
+  const int width = std::max(1, static_cast<int>(Pixels(width_twips) * ratio));
+  const int height = std::max(1, static_cast<int>(Pixels(height_twips) * ratio));
+  QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
+  image.setDevicePixelRatio(ratio);
+  image.fill(Qt::white);
+  return image;
+}
+
+}  // namespace
+
+BookCanvasWidget::BookCanvasWidget(QWidget* parent) : QWidget(parent) {
+  setObjectName("BookCanvas");
+  setMouseTracking(false);
+  for (int box = 0; box < 8; ++box) {
+    images_[box] = BlankBuffer(4500, 6000, 1);
+    surfaces_[box] = std::make_unique<QtSurface>(&images_[box]);
+  }
+  // Higher boxes lie under lower ones: Page(0) over Page(2), Page(1) over Page(3).
+  stacking_[0] = {6, 4, 2, 0};
+  stacking_[1] = {7, 5, 3, 1};
+}
+
+BookCanvasWidget::~BookCanvasWidget() = default;
+
+void BookCanvasWidget::ResizeBuffers(double width_twips, double height_twips) {
+  const qreal ratio = devicePixelRatioF();
+  for (int box = 0; box < 8; ++box) {
+    images_[box] = BlankBuffer(width_twips, height_twips, ratio);
+    surfaces_[box]->Clear();
+  }
+}
+
+void BookCanvasWidget::ApplyLayout(const BookViewLayout& layout) {
+  layout_ = layout;
+  ResizeBuffers(layout.page_width, layout.page_height);
+  for (int box = 0; box < 8; ++box) {
+    boxes_[box] = {0, layout.page_width, layout.page_visible[box]};
+  }
+  stacking_[0] = {6, 4, 2, 0};
+  stacking_[1] = {7, 5, 3, 1};
+  update();
+}
+
+void BookCanvasWidget::SetBoxBackColour(int box, uint32_t bgr) {
+  surfaces_[box]->SetBackColor(bgr);
+}
+
+void BookCanvasWidget::SetBoxTexture(int box, const QImage* texture) {
+  if (texture != nullptr && !texture->isNull()) {
+    surfaces_[box]->SetTexture(*texture);
+  } else {
+    surfaces_[box]->ClearTexture();
+  }
+  surfaces_[box]->Clear();
+}
+
+void BookCanvasWidget::CopyBox(int source_box, int destination_box) {
+  QPainter painter(&images_[destination_box]);
+  painter.setCompositionMode(QPainter::CompositionMode_Source);
+  painter.drawImage(QPointF(0, 0), images_[source_box]);
+  painter.end();
+  RefreshBox(destination_box);
+}
+
+void BookCanvasWidget::StretchBox(int source_box, int destination_box, double width_twips) {
+  if (width_twips <= 0) return;
+  QImage& destination = images_[destination_box];
+  const QSizeF logical = destination.deviceIndependentSize();
+  QPainter painter(&destination);
+  painter.setCompositionMode(QPainter::CompositionMode_Source);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(QRectF(0, 0, Pixels(width_twips), logical.height()), images_[source_box]);
+  painter.end();
+  RefreshBox(destination_box);
+}
+
+double BookCanvasWidget::FrameWidth(int frame) const { return layout_.page_frames[frame].width; }
+
+void BookCanvasWidget::SetBoxWidth(int box, double twips) { boxes_[box].width = twips; }
+void BookCanvasWidget::SetBoxLeft(int box, double twips) { boxes_[box].left = twips; }
+
+void BookCanvasWidget::SetBoxVisible(int box, bool visible) {
+  boxes_[box].visible = visible;
+  RefreshBox(box);
+}
+
+void BookCanvasWidget::RaiseBox(int box) {
+  auto& order = stacking_[box % 2];
+  order.erase(std::remove(order.begin(), order.end(), box), order.end());
+  order.push_back(box);
+}
+
+QRectF BookCanvasWidget::FrameRect(int frame) const {
+  const TwipsRect& rect = layout_.page_frames[frame];
+  return {Pixels(rect.left), Pixels(rect.top), Pixels(rect.width), Pixels(rect.height)};
+}
+
+void BookCanvasWidget::RefreshBox(int box) {
+  if (box > 3 || (box % 2 == 1 && !layout_.right_frame_visible)) return;
+  repaint(FrameRect(box % 2).toAlignedRect());
+}
+
+void BookCanvasWidget::PaintFrame(QPainter& painter, int frame) const {
+  const QRectF area = FrameRect(frame);
+  painter.save();
+  painter.setClipRect(area);
+  for (int box : stacking_[frame]) {
+    const BoxPlace& place = boxes_[box];
+    if (!place.visible || place.width <= 0) continue;
+    const QImage& image = images_[box];
+    const qreal ratio = image.devicePixelRatio();
+    const QRectF target(area.left() + Pixels(place.left), area.top(), Pixels(place.width),
+                        area.height());
+    const QRectF source(0, 0, target.width() * ratio, target.height() * ratio);
+    painter.drawImage(target, image, source);
+  }
+  painter.restore();
+}
+
+void BookCanvasWidget::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), palette().window());
+  painter.setPen(QPen(palette().windowText().color(), 1));
+  const EdgeLines& lines = layout_.lines;
+  for (const TwipsLine& line : {lines.top, lines.bottom, lines.hard_left, lines.hard_right,
+                                lines.left, lines.right, lines.centre}) {
+    painter.drawLine(QPointF(Pixels(line.x1), Pixels(line.y1)),
+                     QPointF(Pixels(line.x2), Pixels(line.y2)));
+  }
+  PaintFrame(painter, 0);
+  if (layout_.right_frame_visible) PaintFrame(painter, 1);
+}
+
+std::optional<int> BookCanvasWidget::PageAt(QPointF point, QPointF* position) const {
+  for (int frame = 0; frame < 2; ++frame) {
+    if (frame == 1 && !layout_.right_frame_visible) continue;
+    const QRectF area = FrameRect(frame);
+    if (!area.contains(point)) continue;
+    if (position != nullptr) *position = (point - area.topLeft()) * kTwipsPerPixel;
+    return frame;
+  }
+  return std::nullopt;
+}
+
+void BookCanvasWidget::ForwardMouse(QMouseEvent* event) {
+  QPointF on_page;
+  const std::optional<int> page = PageAt(event->position(), &on_page);
+  if (event->type() == QEvent::MouseButtonPress) pressed_page_ = page.value_or(-1);
+  const int target = event->type() == QEvent::MouseButtonPress ? page.value_or(-1) : pressed_page_;
+  if (target < 0) return;
+  if (!page) on_page = (event->position() - FrameRect(target).topLeft()) * kTwipsPerPixel;
+  emit pageMouse(target, event->type(), event->button(), event->modifiers(), on_page.x(),
+                 on_page.y());
+  if (event->type() == QEvent::MouseButtonRelease) pressed_page_ = -1;
+}
+
+void BookCanvasWidget::mousePressEvent(QMouseEvent* event) { ForwardMouse(event); }
+void BookCanvasWidget::mouseMoveEvent(QMouseEvent* event) { ForwardMouse(event); }
+void BookCanvasWidget::mouseReleaseEvent(QMouseEvent* event) { ForwardMouse(event); }
+
+void BookCanvasWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (!PageAt(event->position())) emit borderDoubleClicked();
+}
+
+}  // namespace vireo
