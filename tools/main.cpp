@@ -15,7 +15,8 @@ int Fail(const std::string& message) {
   return 1;
 }
 
-int RunPages(const Arguments& arguments);  // cmd_pages.cpp
+int RunPages(const Arguments& arguments);   // cmd_pages.cpp
+int RunRender(const Arguments& arguments);  // cmd_render.cpp
 
 namespace {
 
@@ -28,6 +29,9 @@ const ToolCommand kCommands[] = {
      "pages FILE|--text TEXTFILE --line-width W --lines-per-page N [--line-height H] "
      "[--first-page 1|2] [--position P] (--metrics METRICSFILE | --font FAMILY --size PT)",
      RunPages},
+#if defined(VIREO_TOOL_HAS_QT)
+    {"render", "render FILE --page N -o OUT.png [--single]", RunRender},
+#endif
 };
 
 int Usage() {

@@ -2,8 +2,8 @@
 
 #include "app/file_types.h"
 #include "nav/bookmarks.h"
-#include "render/book_view.h"
 #include "prefs/settings_get_set.h"
+#include "render/book_view.h"
 #include "support/error_trap.h"
 #include "support/logging.h"
 #include "support/maker.h"

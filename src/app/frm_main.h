@@ -8,6 +8,7 @@
 #include "book/load_file.h"
 #include "layout/page_index.h"
 #include "layout/reindex.h"
+#include "nav/page_navigation.h"
 #include "prefs/reader_preferences.h"
 #include "render/book_display.h"
 #include "render/page_boxes.h"
@@ -15,7 +16,6 @@
 #include "render/page_plotter.h"
 #include "render/page_turner.h"
 #include "render/print_page.h"
-#include "nav/page_navigation.h"
 #include "support/user_interaction.h"
 
 namespace vireo {
@@ -35,8 +35,7 @@ class frmMain : public LoadFileHost,
                 public PreferencesHost,
                 public ReindexEvents {
  public:
-  frmMain(MainWindowView& view, UserInteraction& user, MessagePump& pump,
-          ProgramLocation location);
+  frmMain(MainWindowView& view, UserInteraction& user, MessagePump& pump, ProgramLocation location);
   ~frmMain() override;
 
   // The start-up sequence. Returns false when the program must end at once
@@ -63,6 +62,13 @@ class frmMain : public LoadFileHost,
   void SetFontSize(int points);
   void SetFontStyle(const std::string& name);
 
+  // Switches to the page mode in the preferences: the bookmark is stored,
+  // the window takes the new mode's size (the old one saved first when
+  // save_size), and the book is laid out and paginated again.
+  void UpdateBookMode(bool save_size);
+  // Shows page (clamped to the book; in double-page mode the spread that
+  // begins on the odd page at or before it).
+  void ShowPage(int page);
   // The pages on show are cleared and drawn again.
   void RedrawPages();
   // Page turns in the current mode.

@@ -39,7 +39,7 @@ MainWindow::MainWindow(UserInteraction& user, ProgramLocation location)
   setCentralWidget(canvas_);
   lstLanguages_->setObjectName("lstLanguages");
   lstLanguages_->addItem("English");
-  lstLanguages_->setFixedSize(110, 60);
+  lstLanguages_->setFixedSize(110, 36);
   lblLanguages_->setObjectName("lblLanguages");
   QFont bar_font = bar_->font();
   bar_font.setPointSizeF(8);
@@ -154,6 +154,10 @@ void MainWindow::SetWindowHeight(double twips) {
 }
 
 void MainWindow::MaximiseWindow() { showMaximized(); }
+
+bool MainWindow::IsMaximisedOrMinimised() const {
+  return (windowState() & (Qt::WindowMaximized | Qt::WindowMinimized)) != 0;
+}
 
 void MainWindow::ApplyLayout(const BookViewLayout& layout) {
   canvas_->ApplyLayout(layout);

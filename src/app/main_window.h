@@ -49,6 +49,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   void SetWindowWidth(double twips) override;
   void SetWindowHeight(double twips) override;
   void MaximiseWindow() override;
+  bool IsMaximisedOrMinimised() const override;
   void ApplyLayout(const BookViewLayout& layout) override;
   Surface& Box(int box) override;
   void SetBoxBackColour(int box, uint32_t bgr) override;

@@ -47,6 +47,7 @@ class MainWindowView {
   virtual void SetWindowWidth(double twips) = 0;
   virtual void SetWindowHeight(double twips) = 0;
   virtual void MaximiseWindow() = 0;
+  virtual bool IsMaximisedOrMinimised() const = 0;
 
   // The book view: frames, boxes and edge lines as laid out.
   virtual void ApplyLayout(const BookViewLayout& layout) = 0;

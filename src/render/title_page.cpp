@@ -29,8 +29,16 @@ constexpr std::array<std::string_view, 6> kHints = {
     "Press F1 for the Vireo manual",   "Press 1 and 2 to toggle page mode",
 };
 
+// The page boxes keep whatever style was last set on them (measuring the font
+// leaves the first box bold and italic): the title page is upright.
+void Upright(Surface& box) {
+  box.SetFontItalic(false);
+  box.SetFontUnderline(false);
+}
+
 void DrawWelcomeBlock(Surface& box, uint32_t ink) {
   box.Clear();
+  Upright(box);
   box.SetCurrentX(0);
   box.SetCurrentY(kWelcomeTop);
   box.SetFontSize(12);
@@ -61,6 +69,7 @@ void DrawWelcomeBlock(Surface& box, uint32_t ink) {
 LanguageListPlacement DrawHintsBlock(Surface& box, bool separate_box, uint32_t ink,
                                      double list_width, double list_height) {
   if (separate_box) box.Clear();
+  Upright(box);
   box.SetForeColor(ink);
   box.SetCurrentX(0);
   box.SetCurrentY(box.ScaleHeight() / 2);

@@ -38,6 +38,7 @@ class FakeWindow : public MainWindowView {
   void SetWindowWidth(double twips) override { window.width = twips; }
   void SetWindowHeight(double twips) override { window.height = twips; }
   void MaximiseWindow() override { maximised = true; }
+  bool IsMaximisedOrMinimised() const override { return maximised; }
   void ApplyLayout(const BookViewLayout& applied) override {
     layout = applied;
     for (auto& box : boxes) {
@@ -74,7 +75,9 @@ class FakeWindow : public MainWindowView {
   TwipsSize LanguageListSize() const override { return {1650, 900}; }
   void PlaceLanguageList(const LanguageListPlacement&) override {}
   void SetLanguageListVisible(bool visible) override { language_list_visible = visible; }
-  void SetMenuTick(std::string_view item, bool ticked) override { ticks[std::string(item)] = ticked; }
+  void SetMenuTick(std::string_view item, bool ticked) override {
+    ticks[std::string(item)] = ticked;
+  }
   bool MenuTick(std::string_view item) const override {
     const auto found = ticks.find(std::string(item));
     return found != ticks.end() && found->second;
