@@ -245,7 +245,7 @@ std::string ExtraLinesDashesSceneBreaks(std::string_view text, bool extra_line) 
   size_t after_last_break = 0;
   const size_t size = text.size();
   for (size_t index = 0; index < size;) {
-    static constexpr ByteSet kStops = {'\n', '-', '.', 0x84};
+    static constexpr ByteSet kStops = {kLineFeed, '-', '.', kCentred};
     const size_t run = kStops.Next(text, index);
     out.append(text, index, run - index);
     if (run == size) break;
