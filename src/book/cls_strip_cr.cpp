@@ -6,6 +6,7 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "book/byte_scan.h"
 #include "support/error_trap.h"
 #include "support/text_helpers.h"
 
@@ -37,17 +38,9 @@ constexpr std::string_view kSceneBreakStars = "* * *";
 
 // ---- Pass A: steps 1-4 ---------------------------------------------------
 
-std::array<bool, 256> PassAStops() {
-  std::array<bool, 256> stops{};
-  for (int c :
-       {int{'_'}, int{'\r'}, int{'\n'}, int{'\t'}, int{'`'}, int{'\''}, 145, 146, 147, 148}) {
-    stops[static_cast<size_t>(c)] = true;
-  }
-  return stops;
-}
+constexpr ByteSet kPassAStops = {'_', '\r', '\n', '\t', '`', '\'', 145, 146, 147, 148};
 
 std::string UnderscoresLineEndsTabsQuotes(std::string_view text, bool underscores) {
-  static const std::array<bool, 256> stops = PassAStops();
   std::string out;
   out.reserve(text.size() + text.size() / 64);
   bool next_italic_on = true;
@@ -62,8 +55,7 @@ std::string UnderscoresLineEndsTabsQuotes(std::string_view text, bool underscore
   };
   const size_t size = text.size();
   for (size_t index = 0; index < size;) {
-    size_t run = index;
-    while (run < size && !stops[static_cast<uint8_t>(text[run])]) ++run;
+    const size_t run = kPassAStops.Next(text, index);
     out.append(text, index, run - index);
     if (run == size) break;
     const char c = text[run];
@@ -175,9 +167,9 @@ class LineEndWindows {
     bool open = false;
     size_t start = 0;
     size_t end = 0;  // last index of the open window
-    for (size_t index = 0; index < size; ++index) {
-      const char c = text_[index];
-      if (c != kCarriageReturn && c != kQuote) continue;
+    static constexpr ByteSet kAnchors = {'\r', '"'};
+    for (size_t index = kAnchors.Next(text_, 0); index < size;
+         index = kAnchors.Next(text_, index + 1)) {
       size_t reach = index;
       size_t blanks = 0;
       while (blanks <= 5 && reach > 0 && text_[reach - 1] == ' ') --reach, ++blanks;
@@ -253,12 +245,8 @@ std::string ExtraLinesDashesSceneBreaks(std::string_view text, bool extra_line) 
   size_t after_last_break = 0;
   const size_t size = text.size();
   for (size_t index = 0; index < size;) {
-    size_t run = index;
-    while (run < size) {
-      const char c = text[run];
-      if (c == kLineFeed || c == '-' || c == '.' || c == kCentred) break;
-      ++run;
-    }
+    static constexpr ByteSet kStops = {kLineFeed, '-', '.', kCentred};
+    const size_t run = kStops.Next(text, index);
     out.append(text, index, run - index);
     if (run == size) break;
     index = run;

@@ -1,6 +1,7 @@
 #include "book/word_table.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace vireo {
 namespace {
@@ -76,20 +77,39 @@ const ExpansionTable& Expansions() {
   return table;
 }
 
-std::string ExpandWords(std::string_view text) {
-  const ExpansionTable& table = Expansions();
-  size_t length = 0;
-  for (char c : text) length += table[static_cast<uint8_t>(c)].size();
-  std::string out(length, '\0');
-  char* write = out.data();
-  for (char c : text) {
-    const std::string& expansion = table[static_cast<uint8_t>(c)];
-    if (expansion.size() == 1) {
-      *write++ = expansion[0];
-    } else {
-      write = std::copy(expansion.begin(), expansion.end(), write);
+namespace {
+
+// The expansions packed for the one-pass expansion: up to eight bytes each,
+// written eight at a time.
+struct PackedExpansions {
+  std::array<uint64_t, 256> bytes{};
+  std::array<uint8_t, 256> length{};
+  PackedExpansions() {
+    for (int code = 0; code < 256; ++code) {
+      const std::string& expansion = Expansions()[code];
+      if (expansion.size() > sizeof(uint64_t)) throw "a word of the table is too long";
+      std::memcpy(&bytes[code], expansion.data(), expansion.size());
+      length[code] = static_cast<uint8_t>(expansion.size());
     }
   }
+};
+
+}  // namespace
+
+std::string ExpandWords(std::string_view text) {
+  static const PackedExpansions packed;
+  const uint8_t* in = reinterpret_cast<const uint8_t*>(text.data());
+  const size_t size = text.size();
+  size_t length = 0;
+  for (size_t i = 0; i < size; ++i) length += packed.length[in[i]];
+  // Room for the last eight-byte write.
+  std::string out(length + sizeof(uint64_t), '\0');
+  char* write = out.data();
+  for (size_t i = 0; i < size; ++i) {
+    std::memcpy(write, &packed.bytes[in[i]], sizeof(uint64_t));
+    write += packed.length[in[i]];
+  }
+  out.resize(length);
   return out;
 }
 

@@ -24,10 +24,9 @@ class RoundTrip : public ::testing::Test {
   BookReadResult MakeAndRead(const std::string& text, const FormattingOptions& options,
                              const std::string& author = "An Author",
                              const std::string& title = "A Title") {
-    const std::string body =
-        PackBody(PackableText(text, TextEncoding::kWindows1252),
-                 PackableDetail(author, TextEncoding::kWindows1252),
-                 PackableDetail(title, TextEncoding::kWindows1252));
+    const std::string body = PackBody(PackableText(text, TextEncoding::kWindows1252),
+                                      PackableDetail(author, TextEncoding::kWindows1252),
+                                      PackableDetail(title, TextEncoding::kWindows1252));
     test::WriteFile(path_, EbookFile(kStub, body));
     return ReadEmbeddedBook(path_, options);
   }
@@ -38,8 +37,8 @@ class RoundTrip : public ::testing::Test {
       test::ReplaceKnownCharStepByStep(expected, options);
       const BookReadResult book = MakeAndRead(text, options);
       ASSERT_TRUE(book.has_book) << what;
-      ASSERT_EQ(book.text, expected) << what << " options " << options.reformat
-                                     << options.underscores << options.extra_line;
+      ASSERT_EQ(book.text, expected)
+          << what << " options " << options.reformat << options.underscores << options.extra_line;
     }
   }
 
@@ -55,8 +54,8 @@ TEST_F(RoundTrip, EveryByteValue) {
 }
 
 TEST_F(RoundTrip, LongRunsOfBlanksAndLineEnds) {
-  ExpectRoundTrip(std::string(3000, ' ') + std::string(2000, '\r') + "x" +
-                      std::string(2000, '\n') + std::string(1000, ' ') + "\r\n\r\n",
+  ExpectRoundTrip(std::string(3000, ' ') + std::string(2000, '\r') + "x" + std::string(2000, '\n') +
+                      std::string(1000, ' ') + "\r\n\r\n",
                   "runs");
 }
 
@@ -95,7 +94,9 @@ TEST_F(RoundTrip, TheDetailsComeBack) {
 }
 
 TEST(PackableText, Utf8IsConvertedToWindows1252) {
-  const std::string utf8 = "\xEF\xBB\xBF" "caf\xC3\xA9 \xE2\x82\xAC \xCE\xB1 \xC2\x85!";
+  const std::string utf8 =
+      "\xEF\xBB\xBF"
+      "caf\xC3\xA9 \xE2\x82\xAC \xCE\xB1 \xC2\x85!";
   ASSERT_EQ(DetectEncoding(utf8), TextEncoding::kUtf8);
   // é is 233, a word code, written as a reference; the euro sign is 128;
   // alpha has no Windows-1252 character, the C1 control 133 neither.

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "book/replace_known_char_reference.h"
 #include "book/random_text.h"
+#include "book/replace_known_char_reference.h"
 
 namespace vireo {
 namespace {
@@ -44,9 +44,15 @@ std::vector<Case> HandWorkedCases() {
       {"sentence ends", "a!\rb?\rc.\rd", kJoin, "a! \n b? \n c. \n d"},
       {"ellipsis at a line end", "wait...\rmore", kJoin, "wait\x85 \n more"},
       {"dashes and dots", "a---b....c", kJoin, "a\x97-b\x85.c"},
-      {"underscores", "_word_ a_b", {true, true, false}, "\x82word\x83 a\x82" "b"},
+      {"underscores",
+       "_word_ a_b",
+       {true, true, false},
+       "\x82word\x83 a\x82"
+       "b"},
       {"underscores left alone", "_word_", kJoin, "_word_"},
-      {"extra line doubles every mark", "one.\rtwo\r\rthree", {true, false, true},
+      {"extra line doubles every mark",
+       "one.\rtwo\r\rthree",
+       {true, false, true},
        "one. \n  \n two \n  \n three"},
       {"scene break inside a line", "a\x84* * *b", kJoin, "ab"},
       {"scene break between empty lines, lines kept", "one\r\r\x84* * *\r\rtwo", kLines,

@@ -84,17 +84,17 @@ TEST_F(LoadFileTest, LoadsTheBookAndHandsItToTheWindow) {
   EXPECT_EQ(host_.text, "In the beginning. \n And the earth.");
   EXPECT_EQ(host_.author, "Ann");
   EXPECT_EQ(host_.title, "Genesis");
-  EXPECT_EQ(host_.calls, (std::vector<std::string>{
-                             "progress Unpacking 30/100", "progress Reformatting Text 50/100",
-                             "progress Finishing 80/100", "loaded", "bookmark", "reindex keep",
-                             "hide languages"}));
+  EXPECT_EQ(host_.calls, (std::vector<std::string>{"progress Unpacking 30/100",
+                                                   "progress Reformatting Text 50/100",
+                                                   "progress Finishing 80/100", "loaded",
+                                                   "bookmark", "reindex keep", "hide languages"}));
   EXPECT_EQ(LogLines(), (std::vector<std::string>{"Loading from: " + path, "Reading Book",
                                                   "Converting book", "Reindexing file"}));
 }
 
 TEST_F(LoadFileTest, AFileWithoutABookSaysSo) {
-  for (const std::string& content : {std::string(), std::string("plain text\n"),
-                                     BookMarker() + "no header marker"}) {
+  for (const std::string& content :
+       {std::string(), std::string("plain text\n"), BookMarker() + "no header marker"}) {
     host_.calls.clear();
     LoadFile(Write("plain.txt", content), host_);
     EXPECT_EQ(host_.calls,
@@ -169,7 +169,8 @@ TEST_F(LoadFileTest, NoiseBehindTheMarkersNeverBreaksTheLoader) {
         {});
     EXPECT_TRUE(result.has_book);
   }
-  const BookReadResult noise = ReadEmbeddedBook(Write("noise", test::RandomBytes(random, 1 << 20)), {});
+  const BookReadResult noise =
+      ReadEmbeddedBook(Write("noise", test::RandomBytes(random, 1 << 20)), {});
   EXPECT_FALSE(noise.has_book);
   EXPECT_EQ(noise.message, "There is no ebook stored in this file.");
 }

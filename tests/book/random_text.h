@@ -30,10 +30,10 @@ inline std::string RandomFromPieces(std::mt19937& random, const std::vector<std:
 // Pieces of text that exercise every step of the paragraph reformatting.
 inline const std::vector<std::string>& ReformattingPieces() {
   static const std::vector<std::string> pieces = {
-      "a",   "b",   " ",    "  ",     "   ",    "      ", "\r",   "\n",   "\r\n", "\t",
-      "\"",  "'",   "`",    "\x91",   "\x92",   "\x93",   "\x94", "\x81", "\x82", "\x83",
-      "\x84", "\x88", "*",  "* * *",  "\x84* * *", "-",  "--",   ".",    "...",  "!",
-      "?",   "_",   "\xC8", " \n ",   "&",      "x"};
+      "a",    "b",    " ",    "  ",   "   ",  "      ", "\r",        "\n",   "\r\n",
+      "\t",   "\"",   "'",    "`",    "\x91", "\x92",   "\x93",      "\x94", "\x81",
+      "\x82", "\x83", "\x84", "\x88", "*",    "* * *",  "\x84* * *", "-",    "--",
+      ".",    "...",  "!",    "?",    "_",    "\xC8",   " \n ",      "&",    "x"};
   return pieces;
 }
 
@@ -46,11 +46,12 @@ namespace vireo::test {
 // and then a scene break, dashes, an ellipsis or an underscored word.
 inline std::string ProseLikeText(std::mt19937& random, size_t length) {
   static const std::vector<std::string> words = {
-      "the", "and", "of", "to", "that", "in", "he", "shall", "unto", "for", "i", "his", "a",
-      "lord", "they", "be", "is", "him", "not", "them", "it", "with", "all", "thou", "thy",
-      "was", "god", "which", "my", "me", "said", "but", "ye", "their", "have", "will", "thee",
-      "from", "as", "are", "when", "this", "out", "were", "upon", "man", "you", "by", "Israel",
-      "king", "son", "there", "up", "people", "came", "house", "into", "one", "come", "before"};
+      "the",  "and",   "of",  "to",     "that", "in",    "he",   "shall", "unto",   "for",
+      "i",    "his",   "a",   "lord",   "they", "be",    "is",   "him",   "not",    "them",
+      "it",   "with",  "all", "thou",   "thy",  "was",   "god",  "which", "my",     "me",
+      "said", "but",   "ye",  "their",  "have", "will",  "thee", "from",  "as",     "are",
+      "when", "this",  "out", "were",   "upon", "man",   "you",  "by",    "Israel", "king",
+      "son",  "there", "up",  "people", "came", "house", "into", "one",   "come",   "before"};
   std::uniform_int_distribution<size_t> word(0, words.size() - 1);
   std::uniform_int_distribution<int> chance(0, 99);
   std::string text;

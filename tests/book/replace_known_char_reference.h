@@ -67,7 +67,8 @@ inline void ReplaceKnownCharStepByStep(std::string& text, const FormattingOption
   MyReplace(text, "!" + cr, "!" + pm);
   MyReplace(text, "?" + cr, "?" + pm);
   // 8. Lines of one to five blanks.
-  for (int i = 1; i <= 5; ++i) MyReplace(text, cr + std::string(static_cast<size_t>(i), ' ') + cr, pm);
+  for (int i = 1; i <= 5; ++i)
+    MyReplace(text, cr + std::string(static_cast<size_t>(i), ' ') + cr, pm);
   // 9. The remaining line ends.
   if (options.reformat) {
     MyReplace(text, cr + cr, pm);

@@ -4,9 +4,9 @@
 
 #include <random>
 
+#include "book/book_test_support.h"
 #include "book/random_text.h"
 #include "book/scrambling.h"
-#include "book/book_test_support.h"
 
 namespace vireo {
 namespace {
@@ -69,10 +69,11 @@ TEST(WordTable, OnePassExpansionEqualsTheRowByRowReplacements) {
 // "f0", "the" "Th" ...), plus random bytes that no expansion leaves out.
 std::string RandomWordyText(std::mt19937& random) {
   static const std::vector<std::string> pieces = {
-      "tion", "the", "aid", "and", "shout", "tr", "ea", "st", "er", "re", "you", "Clunk", "Hal",
-      "can", "console", "to", "that", "not", "his", "what", "oo", "l", "a", "\t", "d", "e",
-      "ch", "s", "p", " ", "f", ",", ".", "r", "\"", "c", "Th", "0", "9", "f0", "f 0", "x", "T",
-      "h", "i", "o", "n", "\xA9", "\xC8", "\xFF"};
+      "tion", "the",   "aid", "and", "shout",   "tr", "ea",   "st",   "er",   "re",
+      "you",  "Clunk", "Hal", "can", "console", "to", "that", "not",  "his",  "what",
+      "oo",   "l",     "a",   "\t",  "d",       "e",  "ch",   "s",    "p",    " ",
+      "f",    ",",     ".",   "r",   "\"",      "c",  "Th",   "0",    "9",    "f0",
+      "f 0",  "x",     "T",   "h",   "i",       "o",  "n",    "\xA9", "\xC8", "\xFF"};
   return test::RandomFromPieces(random, pieces, 80);
 }
 
@@ -87,7 +88,8 @@ TEST(WordTable, ContractionIsUndoneByExpansion) {
   std::mt19937 random(11);
   std::string producible;
   for (int byte = 0; byte < 256; ++byte) {
-    if (ExpansionProduces(static_cast<uint8_t>(byte))) producible.push_back(static_cast<char>(byte));
+    if (ExpansionProduces(static_cast<uint8_t>(byte)))
+      producible.push_back(static_cast<char>(byte));
   }
   EXPECT_EQ(producible.size(), 256u - 10u - 36u);  // all but 179-188 and 201-236
   std::uniform_int_distribution<size_t> pick(0, producible.size() - 1);
@@ -101,7 +103,9 @@ TEST(WordTable, ContractionIsUndoneByExpansion) {
 TEST(WordTable, ContractionRunsTheRowsInOrder) {
   // "f0" becomes a blank and "0" at row 32, then 179 at row 39; blanks are
   // 231 before that, so " 0" stays two codes.
-  EXPECT_EQ(ContractWords("f0 0"), "\xB3\xE7" "0");
+  EXPECT_EQ(ContractWords("f0 0"),
+            "\xB3\xE7"
+            "0");
   EXPECT_EQ(ContractWords("tion"), "\xC9");
   EXPECT_EQ(ContractWords("r."), ".\xE9");
   // "er" (row 9) is taken before "re" (row 10), then "e" (row 26), "Th" (38).

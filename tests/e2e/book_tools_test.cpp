@@ -27,7 +27,8 @@ ShellRun Shell(const std::string& command) {
   FILE* pipe = popen(command.c_str(), "r");
   if (pipe == nullptr) return run;
   char buffer[1 << 16];
-  for (size_t got; (got = std::fread(buffer, 1, sizeof buffer, pipe)) > 0;) run.out.append(buffer, got);
+  for (size_t got; (got = std::fread(buffer, 1, sizeof buffer, pipe)) > 0;)
+    run.out.append(buffer, got);
   const int status = pclose(pipe);
   run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
   return run;
@@ -62,7 +63,7 @@ TEST(BookTools, MakeThenTextGivesTheReformattedText) {
   test::WriteFile(folder.File("prose.txt"), text);
   const std::string book = folder.File("Prose Book");
   const ShellRun made = Shell(Tool() + " make " + Quoted(folder.File("prose.txt")) + " -o " +
-                         Quoted(book) + " --author 'Some One' --title 'Some Title'");
+                              Quoted(book) + " --author 'Some One' --title 'Some Title'");
   ASSERT_EQ(made.status, 0);
   EXPECT_NE(made.out.find("made"), std::string::npos);
   ExpectTextOfBook(book, text);
@@ -72,7 +73,9 @@ TEST(BookTools, MakeThenTextGivesTheReformattedText) {
   EXPECT_NE(info.out.find("title: Some Title\n"), std::string::npos) << info.out;
   // The stub is the reader, stripped before the book was appended.
   const std::string ebook = test::ReadFile(book);
-  EXPECT_EQ(ebook.substr(0, 4), "\x7f" "ELF");
+  EXPECT_EQ(ebook.substr(0, 4),
+            "\x7f"
+            "ELF");
   EXPECT_FALSE(HasSymbolTable(ebook));
 }
 

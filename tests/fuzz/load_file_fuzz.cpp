@@ -31,8 +31,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   std::fwrite(data, 1, size, file);
   std::fclose(file);
   const uint8_t options = size > 0 ? data[size - 1] : 0;
-  const vireo::BookReadResult book = vireo::ReadEmbeddedBook(
-      g_path, {(options & 1) != 0, (options & 2) != 0, (options & 4) != 0});
+  const vireo::BookReadResult book =
+      vireo::ReadEmbeddedBook(g_path, {(options & 1) != 0, (options & 2) != 0, (options & 4) != 0});
   if (!book.has_book && book.message.empty()) std::abort();
   return 0;
 }
