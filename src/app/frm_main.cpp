@@ -140,6 +140,7 @@ void frmMain::RunStartupSteps() {
     DrawTitlePage();
     ReadDefaultPath(prefs_, location_.folder);
     busy_ = false;
+    view_.ShowMainWindow();
   });
   StartupStep([&] { OpenBook(location_.executable_path); });
   StartupStep([&] { view_.SetExitCaption(ExitCaption()); });

@@ -143,6 +143,7 @@ void frmMain::DrawSpreadAt(int32_t position) {
     PlotOnPage(PageSide::kRight, kRightPageBox, page + 1);
   }
   reindexing_ = false;
+  view_.Milestone("first spread");
   cache_.RefillAfterRedraw();
   reading_.busy = false;
 }
@@ -151,6 +152,7 @@ void frmMain::FinishedReindex() {
   Trap("sub creindex_finishedreindex", kModule, [&] {
     SetCaption(WithoutReindexingMark(caption_));
     ShowPageCount(pages_.count, view_.SystemButtonTextColour());
+    view_.Milestone("pagination finished");
   });
 }
 

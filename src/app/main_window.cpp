@@ -5,6 +5,10 @@
 #include <QPalette>
 #include <QScreen>
 
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+
 #include "render/book_display.h"
 
 namespace vireo {
@@ -102,6 +106,11 @@ void MainWindow::UnloadAllWindows() {
 void MainWindow::EndProgram(int status) {
   end_status_ = status;
   QCoreApplication::exit(status);
+}
+
+void MainWindow::ShowMainWindow() {
+  show();
+  QCoreApplication::processEvents();
 }
 
 void MainWindow::SetCaption(std::string_view caption) {
@@ -234,6 +243,18 @@ void MainWindow::PlaceLanguageList(const LanguageListPlacement& placement) {
 void MainWindow::SetLanguageListVisible(bool visible) {
   lstLanguages_->setVisible(visible);
   lblLanguages_->setVisible(visible);
+}
+
+// VIREO_TIMING=1: each milestone is written to standard error with the wall
+// clock in milliseconds since the epoch, so that a script that noted when it
+// started the program can tell how long the milestone took.
+void MainWindow::Milestone(std::string_view what) {
+  static const bool timing = std::getenv("VIREO_TIMING") != nullptr;
+  if (!timing) return;
+  const auto now = std::chrono::duration_cast<std::chrono::milliseconds>(
+      std::chrono::system_clock::now().time_since_epoch());
+  std::fprintf(stderr, "[timing] %.*s %lld\n", static_cast<int>(what.size()), what.data(),
+               static_cast<long long>(now.count()));
 }
 
 void MainWindow::SetMenuTick(std::string_view item, bool ticked) {

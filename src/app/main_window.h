@@ -38,6 +38,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   void UnloadSplash() override;
   void UnloadAllWindows() override;
   void EndProgram(int status) override;
+  void ShowMainWindow() override;
   void SetCaption(std::string_view caption) override;
   void SetExitCaption(std::string_view caption) override;
   uint32_t SystemWindowColour() override;
@@ -72,6 +73,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   TwipsSize LanguageListSize() const override;
   void PlaceLanguageList(const LanguageListPlacement& placement) override;
   void SetLanguageListVisible(bool visible) override;
+  void Milestone(std::string_view what) override;
   void SetMenuTick(std::string_view item, bool ticked) override;
   bool MenuTick(std::string_view item) const override;
   void SetMenuEnabled(std::string_view item, bool enabled) override;

@@ -32,6 +32,9 @@ class MainWindowView {
   virtual void EndProgram(int status) = 0;
 
   // The window.
+  // Shows the main window (before the book is loaded, so that the first
+  // spread appears while the rest of the book is paginated).
+  virtual void ShowMainWindow() = 0;
   virtual void SetCaption(std::string_view caption) = 0;
   virtual void SetExitCaption(std::string_view caption) = 0;
   // The window system's window background and window text colours.
@@ -81,6 +84,10 @@ class MainWindowView {
   virtual TwipsSize LanguageListSize() const = 0;
   virtual void PlaceLanguageList(const LanguageListPlacement& placement) = 0;
   virtual void SetLanguageListVisible(bool visible) = 0;
+
+  // A point in the program's progress ("first spread", "pagination
+  // finished"), for timing; the window may report it.
+  virtual void Milestone(std::string_view what) { (void)what; }
 
   // Menu items by name ("mnuJustified" ...): ticks and enabled state.
   virtual void SetMenuTick(std::string_view item, bool ticked) = 0;

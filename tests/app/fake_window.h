@@ -27,6 +27,7 @@ class FakeWindow : public MainWindowView {
   void UnloadSplash() override { events.push_back("unload splash"); }
   void UnloadAllWindows() override { events.push_back("unload windows"); }
   void EndProgram(int status) override { events.push_back("end " + std::to_string(status)); }
+  void ShowMainWindow() override { events.push_back("show window"); }
   void SetCaption(std::string_view text) override { caption = text; }
   void SetExitCaption(std::string_view text) override { exit_caption = text; }
   uint32_t SystemWindowColour() override { return 0xFFFFFF; }

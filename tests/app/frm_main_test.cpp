@@ -61,7 +61,7 @@ TEST_F(FormLoadTest, StartsUpInOrderAndReportsTheMissingBook) {
   EXPECT_THAT(window_.splash_statuses,
               ElementsAre("Loading Settings", "Setting up", "Loading Textures", "Scanning fonts...",
                           "Setting up image containers...", "Reading settings", "Loading book"));
-  EXPECT_THAT(window_.events, ElementsAre("show splash", "unload splash"));
+  EXPECT_THAT(window_.events, ElementsAre("show splash", "show window", "unload splash"));
   EXPECT_THAT(user_.messages, ElementsAre("There is no ebook stored in this file."));
   EXPECT_EQ(window_.exit_caption, "Exit Vireo " + AppVersion());
   EXPECT_FALSE(main_.busy());
