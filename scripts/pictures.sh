@@ -1,0 +1,20 @@
+#!/usr/bin/env bash
+# Sets up, builds, and writes pictures of the sample book as the reader shows
+# it at the default window size: the first spread in two-page and in
+# single-page mode, and the title page of a reader without a book.
+#   scripts/pictures.sh [OUTPUT_FOLDER]   (default: build/pictures)
+set -euo pipefail
+cd "$(dirname "$0")/.."
+scripts/setup.sh
+scripts/build.sh release >/dev/null
+bin="build/release/bin"
+out="${1:-build/pictures}"
+mkdir -p "$out"
+# A clean program folder, so that no earlier preferences change the look.
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+cp "$bin/vireo-tool" "$bin/Vireo" "$bin/Genesis" "$bin/libvHtml.so" "$bin"/paper*.jpg "$work/"
+export XDG_RUNTIME_DIR="$work"
+"$work/vireo-tool" render "$work/Genesis" --page 1 -o "$out/first-spread.png"
+"$work/vireo-tool" render "$work/Genesis" --page 1 --single -o "$out/first-page-single.png"
+"$work/vireo-tool" render "$work/Vireo" --page 1 -o "$out/title-page.png" 2>/dev/null

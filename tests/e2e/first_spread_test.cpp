@@ -1,0 +1,54 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "e2e/program_runner.h"
+
+namespace vireo {
+namespace {
+
+// A text of about `bytes` bytes of varied prose in paragraphs.
+std::string Prose(size_t bytes) {
+  static const char* const kWords[] = {"the", "reader", "turns", "a", "page", "and",
+                                       "finds", "another", "chapter", "waiting", "quietly",
+                                       "for", "evening", "light"};
+  std::string text;
+  unsigned seed = 12345;
+  while (text.size() < bytes) {
+    for (int word = 0; word < 90; ++word) {
+      seed = seed * 1103515245 + 12345;
+      text += kWords[(seed >> 16) % 14];
+      text += word % 13 == 12 ? ". " : " ";
+    }
+    text += "\r\n\r\n";
+  }
+  return text;
+}
+
+long long Milestone(const std::string& err, const std::string& name) {
+  const size_t at = err.find("[timing] " + name + " ");
+  if (at == std::string::npos) return -1;
+  return std::stoll(err.substr(at + 10 + name.size()));
+}
+
+TEST(FirstSpread, IsOnScreenBeforeA5MegabyteBookIsPaginated) {
+  test::ProgramFolder program;
+  test::WriteFile(program.Path("book.txt"), Prose(5'000'000));
+  const auto made = test::Run(program.Path("vireo-tool") + " make " + program.Path("book.txt") +
+                                  " -o " + program.Path("Big") + " --stub " + program.Path("Vireo"),
+                              {}, program.folder());
+  ASSERT_EQ(made.status, 0) << made.err;
+  const auto run = test::Run(program.Path("Big"),
+                             test::Unattended(program.folder(),
+                                              {"VIREO_TIMING=1", "VIREO_QUIT_AFTER_MS=0"}),
+                             program.folder());
+  ASSERT_EQ(run.status, 0) << run.err;
+  const long long first = Milestone(run.err, "first spread");
+  const long long finished = Milestone(run.err, "pagination finished");
+  ASSERT_GT(first, 0) << run.err;
+  ASSERT_GT(finished, 0) << run.err;
+  EXPECT_LE(first, finished);
+  EXPECT_LT(run.err.find("first spread"), run.err.find("pagination finished"));
+}
+
+}  // namespace
+}  // namespace vireo
