@@ -1,11 +1,13 @@
-// vireo-tool render: draws a page or spread of a book as the reader shows
-// it, headless, with the preferences in the program's folder.
+// vireo-tool render and sweep: draw a book as the reader shows it, headless,
+// with the preferences in the program's folder.
 
 #include <QApplication>
+#include <QDir>
 #include <QTemporaryDir>
 
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 #include <string>
 
 #include "app/interaction_qt.h"
@@ -43,6 +45,46 @@ bool ParseRender(const Arguments& arguments, RenderRequest& request) {
   return !request.file.empty() && !request.output.empty() && request.page >= 1;
 }
 
+// The reader opened on a file, offscreen, without touching the reader's log
+// or the desktop's file types.
+class HeadlessReader {
+ public:
+  explicit HeadlessReader(const RenderRequest& request) {
+    if (std::getenv("QT_QPA_PLATFORM") == nullptr) setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    SetLoggingDisabled(true);
+    setenv("XDG_DATA_HOME", desktop_.path().toLocal8Bit().constData(), 1);
+    application_ = std::make_unique<QApplication>(argc_, argv_);
+    window_ = std::make_unique<MainWindow>(user_, ProgramLocation{ProgramFolder(), request.file});
+    started_ = window_->logic().Form_Load();
+    if (!started_) return;
+    window_->show();
+    frmMain& reader = window_->logic();
+    if (request.single != reader.preferences().single_page_mode) {
+      reader.preferences().single_page_mode = request.single;
+      reader.UpdateBookMode(false);
+    }
+    reader.ShowPage(request.page);
+    QCoreApplication::processEvents();
+  }
+
+  bool started() const { return started_; }
+  MainWindow& window() { return *window_; }
+
+ private:
+  int argc_ = 1;
+  char name_[11] = "vireo-tool";
+  char* argv_[2] = {name_, nullptr};
+  QTemporaryDir desktop_;
+  StderrInteraction user_;
+  std::unique_ptr<QApplication> application_;
+  std::unique_ptr<MainWindow> window_;
+  bool started_ = false;
+};
+
+bool SavePicture(MainWindow& window, const std::string& path) {
+  return window.grab().save(QString::fromLocal8Bit(path.c_str()), "PNG");
+}
+
 }  // namespace
 
 int RunRender(const Arguments& arguments) {
@@ -51,30 +93,41 @@ int RunRender(const Arguments& arguments) {
     return Fail("usage: vireo-tool render FILE --page N -o OUT.png [--single]");
   }
   if (!FileExists(request.file)) return Fail("cannot read " + request.file);
-  if (std::getenv("QT_QPA_PLATFORM") == nullptr) setenv("QT_QPA_PLATFORM", "offscreen", 1);
-  // The reader's own log and the desktop's file types stay untouched.
-  SetLoggingDisabled(true);
-  QTemporaryDir desktop;
-  setenv("XDG_DATA_HOME", desktop.path().toLocal8Bit().constData(), 1);
-  int argc = 1;
-  char name[] = "vireo-tool";
-  char* argv[] = {name, nullptr};
-  QApplication application(argc, argv);
-  StderrInteraction user;
-  MainWindow window(user, ProgramLocation{ProgramFolder(), request.file});
-  if (!window.logic().Form_Load()) return Fail("the helper library is missing");
-  window.show();
-  frmMain& reader = window.logic();
-  if (request.single != reader.preferences().single_page_mode) {
-    reader.preferences().single_page_mode = request.single;
-    reader.UpdateBookMode(false);
-  }
-  reader.ShowPage(request.page);
-  QCoreApplication::processEvents();
-  if (!window.grab().save(QString::fromLocal8Bit(request.output.c_str()), "PNG")) {
-    return Fail("cannot write " + request.output);
-  }
+  HeadlessReader reader(request);
+  if (!reader.started()) return Fail("the helper library is missing");
+  if (!SavePicture(reader.window(), request.output)) return Fail("cannot write " + request.output);
   std::printf("%s\n", request.output.c_str());
+  return 0;
+}
+
+// Records every drawn step of one animated forward turn from the given page
+// as OUT/frame-NNN.png (frame-000 is the spread before the turn).
+int RunSweep(const Arguments& arguments) {
+  RenderRequest request;
+  if (!ParseRender(arguments, request) || request.single) {
+    return Fail("usage: vireo-tool sweep FILE --page N -o FOLDER");
+  }
+  if (!FileExists(request.file)) return Fail("cannot read " + request.file);
+  if (!QDir().mkpath(QString::fromLocal8Bit(request.output.c_str()))) {
+    return Fail("cannot make " + request.output);
+  }
+  HeadlessReader reader(request);
+  if (!reader.started()) return Fail("the helper library is missing");
+  MainWindow& window = reader.window();
+  int frame = 0;
+  bool written = true;
+  const auto record = [&] {
+    char name[32];
+    std::snprintf(name, sizeof name, "/frame-%03d.png", frame++);
+    written = SavePicture(window, request.output + name) && written;
+  };
+  record();
+  window.logic().preferences().instant_page_turn = false;
+  window.canvas().SetFrameRecorder(record);
+  window.logic().NextPage();
+  window.canvas().SetFrameRecorder(nullptr);
+  if (!written) return Fail("cannot write the frames into " + request.output);
+  std::printf("%d frames in %s\n", frame, request.output.c_str());
   return 0;
 }
 

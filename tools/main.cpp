@@ -17,6 +17,7 @@ int Fail(const std::string& message) {
 
 int RunPages(const Arguments& arguments);   // cmd_pages.cpp
 int RunRender(const Arguments& arguments);  // cmd_render.cpp
+int RunSweep(const Arguments& arguments);   // cmd_render.cpp
 
 namespace {
 
@@ -31,6 +32,7 @@ const ToolCommand kCommands[] = {
      RunPages},
 #if defined(VIREO_TOOL_HAS_QT)
     {"render", "render FILE --page N -o OUT.png [--single]", RunRender},
+    {"sweep", "sweep FILE --page N -o FOLDER", RunSweep},
 #endif
 };
 

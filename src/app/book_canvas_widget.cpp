@@ -110,6 +110,7 @@ QRectF BookCanvasWidget::FrameRect(int frame) const {
 void BookCanvasWidget::RefreshBox(int box) {
   if (box > 3 || (box % 2 == 1 && !layout_.right_frame_visible)) return;
   repaint(FrameRect(box % 2).toAlignedRect());
+  if (recorder_) recorder_();
 }
 
 void BookCanvasWidget::PaintFrame(QPainter& painter, int frame) const {
@@ -141,6 +142,19 @@ void BookCanvasWidget::paintEvent(QPaintEvent*) {
   }
   PaintFrame(painter, 0);
   if (layout_.right_frame_visible) PaintFrame(painter, 1);
+  if (marker_page_ >= 0) {
+    const QRectF frame = FrameRect(marker_page_);
+    painter.fillRect(QRectF(frame.left(), frame.top() + Pixels(marker_top_), frame.width(),
+                            Pixels(marker_bottom_ - marker_top_)),
+                     QColor(255, 220, 0, 80));
+  }
+}
+
+void BookCanvasWidget::SetMarker(int page, double top, double bottom) {
+  marker_page_ = page;
+  marker_top_ = top;
+  marker_bottom_ = bottom;
+  update();
 }
 
 std::optional<int> BookCanvasWidget::PageAt(QPointF point, QPointF* position) const {

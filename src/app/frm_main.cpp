@@ -118,8 +118,7 @@ void frmMain::RunStartupSteps() {
     view_.SetSplashStatus("Reading settings");
     LogAction("Reading settings");
     ReadSettings(prefs_, *this, system_colours_);
-    turn_settings_.instant_page_turn = prefs_.instant_page_turn;
-    turn_settings_.page_sweep_width = prefs_.page_sweep_width;
+    SyncTurnSettings();
     reading_.mode = prefs_.single_page_mode ? PageMode::kSingle : PageMode::kDouble;
     for (int box = 0; box < kBoxCount; ++box) plotter_.SetTexture(box);
   });

@@ -9,6 +9,8 @@
 #include "layout/page_index.h"
 #include "layout/reindex.h"
 #include "nav/page_navigation.h"
+#include "nav/search.h"
+#include "app/key_map.h"
 #include "prefs/reader_preferences.h"
 #include "render/book_display.h"
 #include "render/page_boxes.h"
@@ -78,6 +80,34 @@ class frmMain : public LoadFileHost,
   void StoreCurrentBookmark();
   // The stored position of the open book (0 when none).
   int32_t LastBookmark() const;
+
+  // Commands of the window: keys (on release; returns true when consumed),
+  // font size and style, the bar, resizing, the menus and dropped files.
+  bool Form_KeyUp(int virtual_key, ShiftKey shift);
+  void SwitchPageMode(bool single);
+  void GotoPage();
+  void ChangeFontSize(int points);
+  void cmdBiggerFont_Click();
+  void cmdSmallerFont_Click();
+  void GetNewFontSize();
+  void ChangeFontStyle(const std::string& name);
+  void ToggleBar();
+  void Form_Resize();
+  void mnuFormatting_Click();
+  void mnuUnderscores_Click();
+  void mnuExtraLine_Click();
+  void mnuJustified_Click();
+  void mnuIndentParagraphs_Click();
+  void mnuErasefile_Click();
+  void mnuEraseBookmarks_Click();
+  void mnuHelp_Click();
+  void Page_OLEDragDrop(const std::string& path);
+
+  // Search: the term (the search label's caption), and the moves.
+  void GetSearchTerm();
+  bool Search(const std::string& term, SearchDirection direction);
+  void FindNext();
+  void FindPrev();
 
   // LoadFileHost
   void ShowLoadMessage(std::string_view text) override;
@@ -178,6 +208,11 @@ class frmMain : public LoadFileHost,
   void ShowPageCount(int32_t page_count, uint32_t colour);
   void DrawSpreadAt(int32_t position);
   void RebuildFontTables();
+  void SyncTurnSettings();
+  void StepFontSize(int step);
+  void RepaginateAtBookmark();
+  void ReloadBook();
+  void Find(SearchDirection direction, std::string_view procedure);
 
   MainWindowView& view_;
   UserInteraction& user_;
@@ -191,6 +226,12 @@ class frmMain : public LoadFileHost,
   bool reindexing_ = false;
   bool resizing_ = false;
   bool reformat_ = true;
+  bool font_guard_ = false;
+  WindowSize size_at_reindex_;
+  WindowSize laid_out_size_;
+  BookSearch search_;
+  int book_version_ = 0;
+  int search_text_version_ = -1;
 
   ReaderPreferences prefs_;
   std::string book_text_;

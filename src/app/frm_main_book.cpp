@@ -47,6 +47,7 @@ void frmMain::OpenBook(const std::string& path) {
 void frmMain::BookLoaded(std::string text, std::string author, std::string title) {
   book_path_ = loading_path_;
   book_text_ = std::move(text);
+  ++book_version_;
   author_ = std::move(author);
   title_ = std::move(title);
   SetCaption(title_);
@@ -98,6 +99,7 @@ void frmMain::ShowPageCount(int32_t page_count, uint32_t colour) {
 void frmMain::ReindexFile(bool keep_position) {
   Trap("sub reindexfile", kModule, [&] {
     reindexing_ = true;
+    size_at_reindex_ = view_.WindowOuterSize();
     plotter_.SetPageBorders();
     const int32_t reading_position = keep_position ? LastBookmark() : 0;
     pages_.count = 1;
@@ -109,6 +111,7 @@ void frmMain::ReindexFile(bool keep_position) {
     const PageTextArea& area = plotter_.text_area();
     reindex_.NewReindexFile(book_text_, InsertMode::kAllowed, pages_, reading_position,
                             area.text_width, area.lines_per_page, area.line_height);
+    ++book_version_;  // pictures may have made room for themselves in the text
     reindexing_ = false;
     GreenShape(*this, pump_);
   });

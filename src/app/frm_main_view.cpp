@@ -18,6 +18,7 @@ void frmMain::LayOutBook() {
   for (int box = 0; box < kBoxCount; ++box) ClearPage(box);
   pump_.Yield();
   const WindowSize inner = view_.WindowInnerSize();
+  laid_out_size_ = inner;
   const BookViewInput input{inner.width, inner.height,
                             prefs_.bar_hidden ? ControlBar::kHidden : ControlBar::kShown,
                             view_.Frame1Width(), view_.Frame1Top()};
@@ -70,8 +71,16 @@ void frmMain::RedrawPages() {
   });
 }
 
+// The turns read the sweep preferences as they stand (the settings dialog
+// may have changed them).
+void frmMain::SyncTurnSettings() {
+  turn_settings_.instant_page_turn = prefs_.instant_page_turn;
+  turn_settings_.page_sweep_width = prefs_.page_sweep_width;
+}
+
 void frmMain::NextPage() {
   if (reindexing_) return;
+  SyncTurnSettings();
   if (reading_.mode == PageMode::kSingle) {
     turner_.SinglePageNext(PageCount());
   } else {
@@ -81,6 +90,7 @@ void frmMain::NextPage() {
 
 void frmMain::PreviousPage() {
   if (reindexing_) return;
+  SyncTurnSettings();
   if (reading_.mode == PageMode::kSingle) {
     turner_.SinglePagePrev(PageCount());
   } else {

@@ -9,7 +9,20 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QDragEnterEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QUrl>
+
+#include "app/key_map.h"
+#include "nav/page_nav_dialog.h"
+#include "nav/page_nav_mouse.h"
 #include "render/book_display.h"
+#include "support/logging.h"
+#include "support/maker.h"
+#include "support/platform.h"
 
 namespace vireo {
 namespace {
@@ -49,33 +62,150 @@ MainWindow::MainWindow(UserInteraction& user, ProgramLocation location)
   bar_font.setPointSizeF(8);
   bar_->setFont(bar_font);
   resize(Pixels(9500), Pixels(6570));
+  setFocusPolicy(Qt::StrongFocus);
+  setAcceptDrops(true);
   ConnectCommands();
+  ConnectMenu();
+  ConnectPlannedItems();
 }
 
 MainWindow::~MainWindow() = default;
 
 void MainWindow::ConnectCommands() {
   connect(canvas_, &BookCanvasWidget::pageMouse, this, &MainWindow::OnPageMouse);
-  connect(bar_->cmdExit, &QPushButton::clicked, this, [this] { logic_.Quit(); });
-  connect(bar_->cmdLoad, &QPushButton::clicked, this, [this] { logic_.mnuLoad_Click(); });
-  connect(menu_->Item("mnuExit"), &QAction::triggered, this, [this] { logic_.Quit(); });
-  connect(menu_->Item("mnuLoad"), &QAction::triggered, this, [this] { logic_.mnuLoad_Click(); });
+  connect(canvas_, &BookCanvasWidget::borderDoubleClicked, this, [this] { logic_.ToggleBar(); });
+  const auto on = [this](auto* sender, auto signal, auto&& action) {
+    connect(sender, signal, this, std::forward<decltype(action)>(action));
+  };
+  on(bar_->cmdExit, &QPushButton::clicked, [this] { logic_.Quit(); });
+  on(bar_->cmdLoad, &QPushButton::clicked, [this] { logic_.mnuLoad_Click(); });
+  on(bar_->cmdBiggerFont, &QPushButton::clicked, [this] { logic_.cmdBiggerFont_Click(); });
+  on(bar_->cmdSmallerFont, &QPushButton::clicked, [this] { logic_.cmdSmallerFont_Click(); });
+  on(bar_->cmdFindNext, &QPushButton::clicked, [this] { logic_.FindNext(); });
+  on(bar_->cmdFindPrev, &QPushButton::clicked, [this] { logic_.FindPrev(); });
+  on(bar_->lblSearch, &ClickLabel::clicked, [this] { logic_.GetSearchTerm(); });
+  on(bar_->lblPageNum, &ClickLabel::clicked, [this] { logic_.GotoPage(); });
+  on(bar_->lblFontSize, &ClickLabel::clicked, [this] { logic_.GetNewFontSize(); });
 }
 
-void MainWindow::OnPageMouse(int page, QEvent::Type type, Qt::MouseButton button,
-                             Qt::KeyboardModifiers modifiers, double, double) {
-  if (type != QEvent::MouseButtonRelease) return;
-  if (button == Qt::RightButton) {
-    menu_->popup(QCursor::pos());
+void MainWindow::ConnectMenu() {
+  const auto on = [this](const char* item, auto&& action) {
+    connect(menu_->Item(item), &QAction::triggered, this,
+            std::forward<decltype(action)>(action));
+  };
+  on("mnuExit", [this] { logic_.Quit(); });
+  on("mnuLoad", [this] { logic_.mnuLoad_Click(); });
+  on("mnuEraseBookmarks", [this] { logic_.mnuEraseBookmarks_Click(); });
+  on("mnuErasefile", [this] { logic_.mnuErasefile_Click(); });
+  on("mnuGetSearchTerm", [this] { logic_.GetSearchTerm(); });
+  on("mnuFindNext", [this] { logic_.FindNext(); });
+  on("mnuFindPrevious", [this] { logic_.FindPrev(); });
+  on("mnuGoto", [this] { logic_.GotoPage(); });
+  on("mnuFormatting", [this] { logic_.mnuFormatting_Click(); });
+  on("mnuJustified", [this] { logic_.mnuJustified_Click(); });
+  on("mnuIndentParagraphs", [this] { logic_.mnuIndentParagraphs_Click(); });
+  on("mnuUnderscores", [this] { logic_.mnuUnderscores_Click(); });
+  on("mnuExtraLine", [this] { logic_.mnuExtraLine_Click(); });
+  on("mnuHelp", [this] { logic_.mnuHelp_Click(); });
+  on("mnuToggleBar", [this] {
+    if (!logic_.paginator_busy()) logic_.ToggleBar();
+  });
+  on("mnuCopyPage", [this] {
+    QApplication::clipboard()->setImage(canvas_->BoxImage(kLeftPageBox));
+  });
+  on("mnuPayAuthor", [this] { OpenAddress(QString::fromUtf8(kMakerPaymentPage.data())); });
+  on("mnuCheckUpdate", [this] { OpenAddress(QString::fromUtf8(kMakerUpdatePage.data())); });
+  on("mnuGutenberg", [this] { OpenAddress("https://www.gutenberg.org"); });
+}
+
+// Menu items and buttons whose features come in later versions say so.
+void MainWindow::ConnectPlannedItems() {
+  const auto say = [this](const char* text) {
+    return [this, text] { logic_.ShowLoadMessage(text); };
+  };
+  const auto about = [this] {
+    logic_.ShowLoadMessage("Vireo " + AppVersion() + "\nMarrowind Software, " +
+                           std::string(kMakerCountry) + "\n" + std::string(kMakerHomePage));
+  };
+  connect(bar_->cmdAbout, &QPushButton::clicked, this, about);
+  connect(menu_->Item("mnuAbout"), &QAction::triggered, this, about);
+  connect(menu_->Item("mnuPrint"), &QAction::triggered, this,
+          say("Print will print the pages on show. It is not available in this version."));
+  connect(menu_->Item("mnuSave"), &QAction::triggered, this,
+          say("Export will save the book as a text file. It is not available in this version."));
+  connect(menu_->Item("mnuEbook"), &QAction::triggered, this,
+          say("Create ebook will make a self-contained ebook from a text file. Until it is "
+              "here, use vireo-tool make."));
+  const auto settings = say(
+      "Page Setup will change colours, borders, texture and page turning. It is not available "
+      "in this version; the settings can be edited in Vireo.ini.");
+  connect(bar_->cmdPageSetup, &QPushButton::clicked, this, settings);
+  connect(menu_->Item("mnuColours"), &QAction::triggered, this, settings);
+  const auto font = say(
+      "Change Font will let you choose the book's font. It is not available in this version.");
+  connect(bar_->Label1, &ClickLabel::clicked, this, font);
+  connect(menu_->Item("mnuSelectFont"), &QAction::triggered, this, font);
+  const auto language = say("Translations come with a later version; Vireo speaks English.");
+  connect(menu_->Item("mnuSetLang0"), &QAction::triggered, this, language);
+  connect(menu_->Item("mnuSetLang1"), &QAction::triggered, this, language);
+}
+
+void MainWindow::OpenAddress(const QString& address) {
+  if (NonInteractiveMode()) {
+    std::fprintf(stderr, "[open] %s\n", address.toUtf8().constData());
     return;
   }
-  if (button != Qt::LeftButton) return;
-  const bool single = logic_.preferences().single_page_mode;
-  const bool back = single ? (modifiers & Qt::ControlModifier) : page == kLeftPageBox;
-  if (back) {
-    logic_.PreviousPage();
-  } else {
-    logic_.NextPage();
+  QDesktopServices::openUrl(QUrl(address));
+}
+
+std::optional<int> MainWindow::PageDialogChooser::ChoosePage(int current_page, int page_count) {
+  if (NonInteractiveMode()) {
+    std::fprintf(stderr, "[input] Goto Page: cancelled\n");
+    return std::nullopt;
+  }
+  frmPageNav dialog(parent_);
+  return dialog.ChoosePage(current_page, page_count);
+}
+
+PageChooser& MainWindow::PageDialog() { return page_dialog_; }
+
+void MainWindow::OnPageMouse(int page, QEvent::Type type, Qt::MouseButton button,
+                             Qt::KeyboardModifiers modifiers, double, double y) {
+  PageMouseEvent event;
+  event.kind = type == QEvent::MouseButtonPress  ? PageMouseEventKind::kDown
+               : type == QEvent::MouseMove       ? PageMouseEventKind::kMove
+                                                 : PageMouseEventKind::kUp;
+  event.page_box = page;
+  event.button = button == Qt::LeftButton    ? PageMouseButton::kLeft
+                 : button == Qt::RightButton ? PageMouseButton::kRight
+                                             : PageMouseButton::kNone;
+  if (event.kind == PageMouseEventKind::kMove && (QApplication::mouseButtons() & Qt::LeftButton)) {
+    event.button = PageMouseButton::kLeft;
+  }
+  event.shift = modifiers & Qt::ShiftModifier;
+  event.ctrl = modifiers & Qt::ControlModifier;
+  event.y_twips = y;
+  const PageTextArea& area = logic_.text_area();
+  const PageMouseContext context{
+      logic_.preferences().single_page_mode ? PageMode::kSingle : PageMode::kDouble,
+      logic_.navigator().navigation_busy(), area.top_border, area.line_pitch,
+      area.lines_per_page, marked_line_};
+  const PageMouseDecision decision = DecidePageMouse(event, context);
+  switch (decision.action) {
+    case PageMouseAction::kTurnForward: logic_.NextPage(); break;
+    case PageMouseAction::kTurnBack: logic_.PreviousPage(); break;
+    case PageMouseAction::kContextMenu: menu_->popup(QCursor::pos()); break;
+    case PageMouseAction::kMarkLine:
+    case PageMouseAction::kMoveMark:
+      marked_line_ = decision.line;
+      canvas_->SetMarker(page, decision.band_top, decision.band_bottom);
+      break;
+    case PageMouseAction::kSpeakLine:
+      // FIXME: the marked line goes to text-to-speech once speech lands.
+      marked_line_ = 0;
+      canvas_->SetMarker(-1, 0, 0);
+      break;
+    case PageMouseAction::kNone: break;
   }
 }
 
@@ -163,6 +293,7 @@ void MainWindow::SetWindowHeight(double twips) {
 }
 
 void MainWindow::MaximiseWindow() { showMaximized(); }
+void MainWindow::RestoreWindow() { showNormal(); }
 
 bool MainWindow::IsMaximisedOrMinimised() const {
   return (windowState() & (Qt::WindowMaximized | Qt::WindowMinimized)) != 0;
@@ -227,6 +358,10 @@ void MainWindow::SetFontSizeLabel(std::string_view text) {
   bar_->lblFontSize->setText(FromWindows1252(text));
 }
 
+void MainWindow::SetSearchLabel(std::string_view text) {
+  bar_->lblSearch->setText(FromWindows1252(text));
+}
+
 TwipsSize MainWindow::LanguageListSize() const {
   return {lstLanguages_->width() * kTwipsPerPixel, lstLanguages_->height() * kTwipsPerPixel};
 }
@@ -289,6 +424,41 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 void MainWindow::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
   PlaceControlBar();
+  if (!logic_.busy()) logic_.Form_Resize();
+}
+
+namespace {
+
+// The window system's virtual-key code of a Qt key (letters and digits are
+// the same codes).
+int VirtualKey(int qt_key) {
+  switch (qt_key) {
+    case Qt::Key_Space: return vk::kSpace;
+    case Qt::Key_Left: return vk::kLeft;
+    case Qt::Key_Right: return vk::kRight;
+    case Qt::Key_F1: return vk::kF1;
+    default: return (qt_key >= '0' && qt_key <= 'Z') ? qt_key : 0;
+  }
+}
+
+}  // namespace
+
+void MainWindow::keyReleaseEvent(QKeyEvent* event) {
+  if (event->isAutoRepeat()) return;
+  const ShiftKey shift = event->modifiers() & Qt::ShiftModifier ? ShiftKey::kDown : ShiftKey::kUp;
+  logic_.Form_KeyUp(VirtualKey(event->key()), shift);
+  event->accept();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  const QList<QUrl> urls = event->mimeData()->urls();
+  if (urls.isEmpty() || !urls.first().isLocalFile()) return;
+  event->acceptProposedAction();
+  logic_.Page_OLEDragDrop(urls.first().toLocalFile().toLocal8Bit().toStdString());
 }
 
 }  // namespace vireo

@@ -51,6 +51,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   void SetWindowHeight(double twips) override;
   void MaximiseWindow() override;
   bool IsMaximisedOrMinimised() const override;
+  void RestoreWindow() override;
   void ApplyLayout(const BookViewLayout& layout) override;
   Surface& Box(int box) override;
   void SetBoxBackColour(int box, uint32_t bgr) override;
@@ -70,6 +71,8 @@ class MainWindow : public QMainWindow, public MainWindowView {
   double Frame1Top() const override;
   void SetPageLabel(std::string_view text, uint32_t colour) override;
   void SetFontSizeLabel(std::string_view text) override;
+  void SetSearchLabel(std::string_view text) override;
+  PageChooser& PageDialog() override;
   TwipsSize LanguageListSize() const override;
   void PlaceLanguageList(const LanguageListPlacement& placement) override;
   void SetLanguageListVisible(bool visible) override;
@@ -81,14 +84,33 @@ class MainWindow : public QMainWindow, public MainWindowView {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
   void ConnectCommands();
+  void ConnectMenu();
+  void ConnectPlannedItems();
+  void OpenAddress(const QString& address);
   void OnPageMouse(int page, QEvent::Type type, Qt::MouseButton button,
                    Qt::KeyboardModifiers modifiers, double x, double y);
   void PlaceControlBar();
 
+  // The page dialog as Goto Page asks it; in the non-interactive mode it is
+  // cancelled at once.
+  class PageDialogChooser : public PageChooser {
+   public:
+    explicit PageDialogChooser(QWidget* parent) : parent_(parent) {}
+    std::optional<int> ChoosePage(int current_page, int page_count) override;
+
+   private:
+    QWidget* parent_;
+  };
+
   QtMessagePump pump_;
+  PageDialogChooser page_dialog_{this};
+  int marked_line_ = 0;
   BookCanvasWidget* canvas_;
   ControlBarWidget* bar_;
   OptionsMenu* menu_;

@@ -9,6 +9,7 @@
 #include "render/book_display.h"
 #include "render/book_view.h"
 #include "render/title_page.h"
+#include "nav/page_navigation.h"
 
 namespace vireo {
 
@@ -51,6 +52,8 @@ class MainWindowView {
   virtual void SetWindowHeight(double twips) = 0;
   virtual void MaximiseWindow() = 0;
   virtual bool IsMaximisedOrMinimised() const = 0;
+  // A maximised or minimised window back to its normal size.
+  virtual void RestoreWindow() = 0;
 
   // The book view: frames, boxes and edge lines as laid out.
   virtual void ApplyLayout(const BookViewLayout& layout) = 0;
@@ -79,6 +82,9 @@ class MainWindowView {
   virtual double Frame1Top() const = 0;
   virtual void SetPageLabel(std::string_view text, uint32_t colour) = 0;
   virtual void SetFontSizeLabel(std::string_view text) = 0;
+  virtual void SetSearchLabel(std::string_view text) = 0;
+  // The page dialog (frmPageNav) that Goto Page shows.
+  virtual PageChooser& PageDialog() = 0;
 
   // The language list beside the title page's hints.
   virtual TwipsSize LanguageListSize() const = 0;

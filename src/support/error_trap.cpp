@@ -9,7 +9,9 @@ namespace vireo {
 
 void RecordError(const RuntimeError& error, std::string_view procedure, std::string_view module) {
   std::string name(procedure);
-  name += "(" + std::to_string(error.number()) + ")";
+  name += '(';
+  name += std::to_string(error.number());
+  name += ')';
   LogProc(error.description(), name, module);
 }
 

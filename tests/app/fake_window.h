@@ -40,6 +40,7 @@ class FakeWindow : public MainWindowView {
   void SetWindowHeight(double twips) override { window.height = twips; }
   void MaximiseWindow() override { maximised = true; }
   bool IsMaximisedOrMinimised() const override { return maximised; }
+  void RestoreWindow() override { maximised = false; }
   void ApplyLayout(const BookViewLayout& applied) override {
     layout = applied;
     for (auto& box : boxes) {
@@ -73,6 +74,8 @@ class FakeWindow : public MainWindowView {
     page_label_colour = colour;
   }
   void SetFontSizeLabel(std::string_view text) override { font_size_label = text; }
+  void SetSearchLabel(std::string_view text) override { search_label = text; }
+  PageChooser& PageDialog() override { return chooser; }
   TwipsSize LanguageListSize() const override { return {1650, 900}; }
   void PlaceLanguageList(const LanguageListPlacement&) override {}
   void SetLanguageListVisible(bool visible) override { language_list_visible = visible; }
@@ -94,6 +97,12 @@ class FakeWindow : public MainWindowView {
   std::string page_label;
   uint32_t page_label_colour = 0;
   std::string font_size_label;
+  std::string search_label;
+  // The page dialog: answers with `page`, or cancels when it holds nothing.
+  struct Chooser : PageChooser {
+    std::optional<int> ChoosePage(int, int) override { return page; }
+    std::optional<int> page;
+  } chooser;
   WindowSize window{9500, 6570};
   bool maximised = false;
   bool bar_visible = true;

@@ -1,0 +1,65 @@
+// Turning the pages of the real window with the mouse.
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+
+#include "app/main_window.h"
+#include "app/reader_window_fixture.h"
+
+namespace vireo {
+namespace {
+
+void ClickPage(test::ReaderWindow& reader, int frame, Qt::KeyboardModifiers modifiers = {}) {
+  BookCanvasWidget& canvas = reader.window().canvas();
+  QTest::mouseClick(&canvas, Qt::LeftButton, modifiers,
+                    canvas.FrameRect(frame).center().toPoint());
+  QApplication::processEvents();
+}
+
+// The page number printed at the foot of the box, read back from the
+// composer's work: the page the window drew last into it.
+int RightPageShown(test::ReaderWindow& reader) { return reader.logic().current_page(); }
+
+TEST(TurningWithTheMouse, TheRightPageTurnsForwardAndTheLeftPageBack) {
+  test::ReaderWindow reader(test::SampleProse(60), "INSTANTPAGETURN,True\r\n");
+  reader.Start();
+  ASSERT_GT(reader.logic().pages().count, 8);
+  EXPECT_EQ(RightPageShown(reader), 2);
+  ClickPage(reader, kRightFrame);
+  EXPECT_EQ(RightPageShown(reader), 4);
+  ClickPage(reader, kRightFrame);
+  EXPECT_EQ(RightPageShown(reader), 6);
+  ClickPage(reader, kLeftFrame);
+  EXPECT_EQ(RightPageShown(reader), 4);
+  EXPECT_EQ(reader.logic().cache().hits(), 1) << "the way back came from the lower cache";
+  ClickPage(reader, kLeftFrame);
+  ClickPage(reader, kLeftFrame);
+  EXPECT_EQ(RightPageShown(reader), 2) << "the first spread is the beginning";
+}
+
+TEST(TurningWithTheMouse, SinglePageModeGoesForwardAndBackWithCtrl) {
+  test::ReaderWindow reader(test::SampleProse(40), "SINGLEPAGEMODE,True\r\n");
+  reader.Start();
+  EXPECT_EQ(reader.logic().current_page(), 1);
+  ClickPage(reader, kLeftFrame);
+  ClickPage(reader, kLeftFrame);
+  EXPECT_EQ(reader.logic().current_page(), 3);
+  ClickPage(reader, kLeftFrame, Qt::ControlModifier);
+  EXPECT_EQ(reader.logic().current_page(), 2);
+}
+
+TEST(TurningWithTheMouse, AnAnimatedTurnDrawsItsStepsAndEndsOnTheNextSpread) {
+  test::ReaderWindow reader(test::SampleProse(40), "PAGESWEEPWIDTH,600\r\n");
+  reader.Start();
+  int frames = 0;
+  reader.window().canvas().SetFrameRecorder([&] { ++frames; });
+  ClickPage(reader, kRightFrame);
+  reader.window().canvas().SetFrameRecorder(nullptr);
+  EXPECT_EQ(RightPageShown(reader), 4);
+  EXPECT_GT(frames, 8) << "the sweep is drawn step by step";
+  EXPECT_FALSE(reader.window().canvas().BoxVisible(kRightWorkBox)) << "work boxes hidden again";
+}
+
+}  // namespace
+}  // namespace vireo
