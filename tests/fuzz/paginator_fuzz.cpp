@@ -46,10 +46,18 @@ clsFontMetrics Tables(uint32_t seed, uint8_t mode) {
       seed ^= seed >> 17;
       seed ^= seed << 5;
       switch (mode % 4) {
-        case 0: width = 50 + seed % 150; break;
-        case 1: width = (seed % 3000) / 7.0; break;
-        case 2: width = (seed % 3) * 75.0; break;
-        default: width = static_cast<double>(seed % 400) - 40; break;
+        case 0:
+          width = 50 + seed % 150;
+          break;
+        case 1:
+          width = (seed % 3000) / 7.0;
+          break;
+        case 2:
+          width = (seed % 3) * 75.0;
+          break;
+        default:
+          width = static_cast<double>(seed % 400) - 40;
+          break;
       }
     }
     metrics.SetTable(style & 1, style & 2, table);
@@ -132,10 +140,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   vireo::clsReindex reindex;
   reindex.FontMetrics() = in.metrics;
   reindex.SetImageHeights(heights);
-  reindex.NewReindexFile(text, in.insert ? vireo::InsertMode::kAllowed
-                                         : vireo::InsertMode::kNotAllowed,
-                         index, in.reading_position, in.line_width, in.lines_per_page,
-                         in.line_height);
+  reindex.NewReindexFile(
+      text, in.insert ? vireo::InsertMode::kAllowed : vireo::InsertMode::kNotAllowed, index,
+      in.reading_position, in.line_width, in.lines_per_page, in.line_height);
   Check(!reindex.Busy(), "busy after the end");
   Check(index.count >= (in.title_page ? 2 : 1), "fewer pages than the first");
   // The first text page starts at 1 even in an empty text; the others lie
