@@ -17,6 +17,7 @@ class FakeSurface : public Surface {
     double x, y;
     bool bold, italic, underline;
     uint32_t colour;
+    double font_size = 0;  // points, as set when the run was drawn
   };
 
   double char_width = 100;
@@ -46,8 +47,8 @@ class FakeSurface : public Surface {
   double ScaleHeight() const override { return height; }
 
   void DrawText(std::string_view text) override {
-    runs.push_back({std::string(text), CurrentX(), CurrentY(), bold, italic, underline,
-                    ForeColor()});
+    runs.push_back({std::string(text), CurrentX(), CurrentY(), bold, italic, underline, ForeColor(),
+                    font_size});
     SetCurrentX(CurrentX() + TextWidth(text));
   }
   void Clear() override {

@@ -28,3 +28,7 @@ void WriteFile(const std::string& path, const std::string& content);
 std::string BinFolder();
 
 }  // namespace vireo::test
+
+namespace vireo::test {
+inline bool FileExists(const std::string& path) { return std::filesystem::exists(path); }
+}  // namespace vireo::test

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <string>
 
+#include "book_commands.h"
 #include "support/platform.h"
 #include "support/vhtml_library.h"
 #include "tool_commands.h"
@@ -20,6 +21,9 @@ namespace {
 
 const ToolCommand kCommands[] = {
     {"help", "help", nullptr},
+    {"make", "make TEXT -o OUT [--stub PATH] [--author A] [--title T]", RunMake},
+    {"text", "text FILE [--no-reformat] [--underscores] [--extra-line] [--brn|--bfl]", RunText},
+    {"info", "info FILE", RunInfo},
     {"pages",
      "pages FILE|--text TEXTFILE --line-width W --lines-per-page N [--line-height H] "
      "[--first-page 1|2] [--position P] (--metrics METRICSFILE | --font FAMILY --size PT)",
@@ -28,7 +32,8 @@ const ToolCommand kCommands[] = {
 
 int Usage() {
   std::fprintf(stderr, "usage:\n");
-  for (const ToolCommand& command : kCommands) std::fprintf(stderr, "  vireo-tool %s\n", command.usage);
+  for (const ToolCommand& command : kCommands)
+    std::fprintf(stderr, "  vireo-tool %s\n", command.usage);
   return 2;
 }
 

@@ -31,6 +31,35 @@ std::string frmMain::ProgramFolderString(const std::string& folder) {
 
 void frmMain::ShowLoadMessage(std::string_view text) { user_.ShowMessage(text, "Vireo"); }
 
+void frmMain::ShowProgress(std::string_view caption, int value, int maximum) {
+  const int percent = maximum > 0 ? value * 100 / maximum : 0;
+  view_.SetSplashStatus(std::string(caption) + " " + std::to_string(percent) + "%");
+  pump_.Yield();
+}
+
+FormattingOptions frmMain::Formatting() { return {reformat_, underscores_, extra_line_}; }
+
+void frmMain::BookLoaded(std::string text, std::string author, std::string title) {
+  book_text_ = std::move(text);
+  author_ = std::move(author);
+  title_ = std::move(title);
+  // FIXME: the window shows the caption once the view has a caption call.
+  caption_ = title_;
+  book_loaded_ = true;
+  book_menus_enabled_ = true;
+}
+
+void frmMain::ReadBookmark() {
+  // FIXME: picks up the reading position from the bookmarks once they land.
+}
+
+void frmMain::ReindexFile(bool keep_position) {
+  // FIXME: runs the paginator once it lands.
+  static_cast<void>(keep_position);
+}
+
+void frmMain::HideLanguageList() { language_list_visible_ = false; }
+
 bool frmMain::CheckRequiredLibrary() {
   if (TheVHtml().Load(location_.folder)) return true;
   user_.ShowMessage(VHtmlLibrary::FileName() +

@@ -38,8 +38,7 @@ struct ProgramLocation {
 // Module name in the log: "frmMain".
 class frmMain : public LoadFileHost {
  public:
-  frmMain(MainWindowView& view, UserInteraction& user, MessagePump& pump,
-          ProgramLocation location);
+  frmMain(MainWindowView& view, UserInteraction& user, MessagePump& pump, ProgramLocation location);
 
   // The start-up sequence. Returns false when the program must end at once
   // (the helper library is missing); the message has been shown then.
@@ -52,13 +51,26 @@ class frmMain : public LoadFileHost {
   // Load (menu, button, key L).
   void mnuLoad_Click();
 
+  // LoadFileHost: the main window's side of loading a book.
   void ShowLoadMessage(std::string_view text) override;
+  void ShowProgress(std::string_view caption, int value, int maximum) override;
+  FormattingOptions Formatting() override;
+  void BookLoaded(std::string text, std::string author, std::string title) override;
+  void ReadBookmark() override;
+  void ReindexFile(bool keep_position) override;
+  void HideLanguageList() override;
 
   bool busy() const { return busy_; }
   bool book_loaded() const { return book_loaded_; }
   bool paginator_busy() const { return paginator_busy_; }
   const std::string& settings_path() const { return settings_path_; }
   const std::string& program_folder() const { return program_folder_; }
+  const std::string& book_text() const { return book_text_; }
+  const std::string& author() const { return author_; }
+  const std::string& title() const { return title_; }
+  const std::string& caption() const { return caption_; }
+  bool book_menus_enabled() const { return book_menus_enabled_; }
+  bool language_list_visible() const { return language_list_visible_; }
 
   // "Exit Vireo " + major.minor.revision.
   static std::string ExitCaption();
@@ -85,6 +97,16 @@ class frmMain : public LoadFileHost {
   bool book_loaded_ = false;
   bool paginator_busy_ = false;
   bool reformat_ = true;
+  // FIXME: set from "UnderScores" and "ExtraParagraphLine" by ReadSettings
+  // and by their menu items once the preferences land.
+  bool underscores_ = false;
+  bool extra_line_ = false;
+  std::string book_text_;
+  std::string author_;
+  std::string title_;
+  std::string caption_;
+  bool book_menus_enabled_ = false;  // Save, Copy Page and their companion
+  bool language_list_visible_ = true;
 };
 
 // Closes the program: unloads every window, lists the recent actions into

@@ -36,7 +36,8 @@ QString FromWindows1252(std::string_view bytes) {
 std::string ToWindows1252(const QString& text) {
   std::string bytes;
   bytes.reserve(static_cast<size_t>(text.size()));
-  for (QChar c : text) bytes.push_back(static_cast<char>(UnicodeToWindows1252(c.unicode()).value_or('?')));
+  for (QChar c : text)
+    bytes.push_back(static_cast<char>(UnicodeToWindows1252(c.unicode()).value_or('?')));
   return bytes;
 }
 

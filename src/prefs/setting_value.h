@@ -10,13 +10,13 @@ namespace vireo {
 // the settings file and the preference readers expect.
 class SettingValue {
  public:
-  SettingValue() = default;  // Empty
-  SettingValue(std::string text) : value_(std::move(text)) {}  // NOLINT: implicit by design
-  SettingValue(const char* text) : value_(std::string(text)) {}  // NOLINT
-  SettingValue(double number) : value_(number) {}               // NOLINT
+  SettingValue() = default;                                          // Empty
+  SettingValue(std::string text) : value_(std::move(text)) {}        // NOLINT: implicit by design
+  SettingValue(const char* text) : value_(std::string(text)) {}      // NOLINT
+  SettingValue(double number) : value_(number) {}                    // NOLINT
   SettingValue(int number) : value_(static_cast<double>(number)) {}  // NOLINT
   SettingValue(int64_t number) : value_(static_cast<double>(number)) {}  // NOLINT
-  SettingValue(bool boolean) : value_(boolean) {}               // NOLINT
+  SettingValue(bool boolean) : value_(boolean) {}                        // NOLINT
 
   bool IsEmpty() const { return std::holds_alternative<std::monostate>(value_); }
   bool IsText() const { return std::holds_alternative<std::string>(value_); }

@@ -31,8 +31,7 @@ class cSHAREDSettings {
   SettingValue RetrieveSetting(const std::string& key,
                                const SettingValue& default_value = {}) const;
   // RetrieveSetting(key), but the default whenever that result equals 0.
-  SettingValue RetrieveWithDefault(const std::string& key,
-                                   const SettingValue& default_value) const;
+  SettingValue RetrieveWithDefault(const std::string& key, const SettingValue& default_value) const;
 
   bool SettingPresent(const std::string& key) const;
   void DeleteSetting(int index);

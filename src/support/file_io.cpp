@@ -42,8 +42,8 @@ bool IsReadOnly(const std::string& path) {
   const auto status = std::filesystem::status(path, error);
   if (error || !std::filesystem::is_regular_file(status)) return false;
   using std::filesystem::perms;
-  return (status.permissions() & (perms::owner_write | perms::group_write |
-                                  perms::others_write)) == perms::none;
+  return (status.permissions() & (perms::owner_write | perms::group_write | perms::others_write)) ==
+         perms::none;
 }
 
 ErrorNumber WriteError(int error_number) {

@@ -32,8 +32,7 @@ size_t CountOccurrences(std::string_view text, std::string_view find,
 // Several replacements in one pass: at each position the first pair whose
 // find matches wins.
 using Replacements = std::vector<std::pair<std::string, std::string>>;
-void MyReplaceMulti(std::string& text, const Replacements& pairs,
-                    Case compare = Case::kSensitive);
+void MyReplaceMulti(std::string& text, const Replacements& pairs, Case compare = Case::kSensitive);
 
 // Windows-1252 upper case of a whole string.
 std::string UpperCase(std::string_view text);

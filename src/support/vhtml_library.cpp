@@ -67,9 +67,7 @@ bool VHtmlLibrary::Load(std::string_view folder) {
 
 VHtmlLibrary::CountFunction VHtmlLibrary::count() const { return Checked(count_); }
 VHtmlLibrary::ReplaceFunction VHtmlLibrary::replace() const { return Checked(replace_); }
-VHtmlLibrary::MultiFunction VHtmlLibrary::replace_multi() const {
-  return Checked(replace_multi_);
-}
+VHtmlLibrary::MultiFunction VHtmlLibrary::replace_multi() const { return Checked(replace_multi_); }
 VHtmlLibrary::MultiFunction VHtmlLibrary::replace_multi_ignore_caps() const {
   return Checked(replace_multi_ignore_caps_);
 }

@@ -19,8 +19,7 @@ class VHtmlLibrary {
   bool Load(std::string_view folder);
   bool loaded() const { return count_ != nullptr; }
 
-  using CountFunction = size_t (*)(const unsigned char*, size_t, const unsigned char*, size_t,
-                                   int);
+  using CountFunction = size_t (*)(const unsigned char*, size_t, const unsigned char*, size_t, int);
   using ReplaceFunction = size_t (*)(const unsigned char*, size_t, const unsigned char*, size_t,
                                      const unsigned char*, size_t, int, unsigned char*, size_t);
   using MultiFunction = size_t (*)(const unsigned char*, size_t, const VhtmlPair*, size_t,

@@ -18,8 +18,8 @@ bool MatchesAt(const unsigned char* text, const unsigned char* find, size_t leng
 }
 
 // Position of the next occurrence at or after from, or text_length.
-size_t Next(const unsigned char* text, size_t text_length, size_t from,
-            const unsigned char* find, size_t find_length, bool ignore_case) {
+size_t Next(const unsigned char* text, size_t text_length, size_t from, const unsigned char* find,
+            size_t find_length, bool ignore_case) {
   if (find_length == 0 || find_length > text_length) return text_length;
   const size_t last = text_length - find_length;
   if (!ignore_case) {
@@ -39,8 +39,7 @@ size_t Next(const unsigned char* text, size_t text_length, size_t from,
 }
 
 size_t ReplaceMulti(const unsigned char* text, size_t text_length, const VhtmlPair* pairs,
-                    size_t pair_count, unsigned char* out, size_t out_capacity,
-                    bool ignore_case) {
+                    size_t pair_count, unsigned char* out, size_t out_capacity, bool ignore_case) {
   size_t written = 0;
   auto put = [&](const unsigned char* bytes, size_t length) {
     if (length > out_capacity - written) return false;
@@ -84,9 +83,8 @@ size_t cStringCount(const unsigned char* text, size_t text_length, const unsigne
 }
 
 size_t cReplace(const unsigned char* text, size_t text_length, const unsigned char* find,
-                size_t find_length, const unsigned char* replacement,
-                size_t replacement_length, int ignore_case, unsigned char* out,
-                size_t out_capacity) {
+                size_t find_length, const unsigned char* replacement, size_t replacement_length,
+                int ignore_case, unsigned char* out, size_t out_capacity) {
   size_t written = 0;
   size_t from = 0;
   auto put = [&](const unsigned char* bytes, size_t length) {

@@ -33,10 +33,10 @@ VHTML_API size_t cStringCount(const unsigned char* text, size_t text_length,
 // Writes text with every occurrence of find (left to right, never rescanning
 // inserted text) replaced into out. Returns the length written, or (size_t)-1
 // when out_capacity is too small (nothing useful is in out then).
-VHTML_API size_t cReplace(const unsigned char* text, size_t text_length,
-                          const unsigned char* find, size_t find_length,
-                          const unsigned char* replacement, size_t replacement_length,
-                          int ignore_case, unsigned char* out, size_t out_capacity);
+VHTML_API size_t cReplace(const unsigned char* text, size_t text_length, const unsigned char* find,
+                          size_t find_length, const unsigned char* replacement,
+                          size_t replacement_length, int ignore_case, unsigned char* out,
+                          size_t out_capacity);
 
 // One left-to-right pass replacing several finds at once: at each position
 // the first pair (in the given order) whose find matches there wins. Returns

@@ -1,0 +1,37 @@
+#pragma once
+
+namespace vireo {
+
+// What a released key asks the main window to do.
+enum class KeyCommand {
+  kNone,
+  kPreviousPage,
+  kNextPage,
+  kSinglePageMode,   // "1"
+  kTwoPageMode,      // "2"
+  kGotoPage,         // "G"
+  kToggleBar,        // "B"
+  kEnterSearchTerm,  // "S"
+  kFindNext,         // "N"
+  kFindPrevious,     // "P"
+  kLoad,             // "L"
+  kQuit,             // "Q"
+  kHelp,             // F1
+};
+
+// Virtual-key codes of the window system, as the key map names them.
+namespace vk {
+inline constexpr int kSpace = 32;
+inline constexpr int kLeft = 37;
+inline constexpr int kRight = 39;
+inline constexpr int kF1 = 112;
+}  // namespace vk
+
+enum class ShiftKey { kUp, kDown };
+
+// The reader's key map, acting on key release: Shift+Space goes back; Space,
+// Right and "M" go forward; Left and "Z" go back; the letters and digits of
+// the commands; anything else does nothing.
+KeyCommand CommandForKey(int virtual_key, ShiftKey shift);
+
+}  // namespace vireo

@@ -1,0 +1,231 @@
+#include "book/book_maker.h"
+
+#include <array>
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+
+#include "book/ebook_stub.h"
+#include "book/load_file.h"
+#include "book/scrambling.h"
+#include "book/word_table.h"
+#include "support/file_io.h"
+#include "support/logging.h"
+#include "support/platform.h"
+#include "support/runtime_error.h"
+#include "support/windows1252.h"
+
+namespace vireo {
+namespace {
+
+constexpr char kSectionMark = '\xA9';  // 169
+constexpr size_t kLeadInLength = 2000;
+constexpr size_t kTrailerLength = 2000;
+constexpr std::string_view kFiller = "This book was made with Vireo. ";
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+enum class Field { kText, kDetail };
+
+// Bytes that must be written as a reference. In a detail field "&" and 200
+// are plain characters, since no reference and no placeholder is read there.
+std::array<bool, 256> MustEscape(Field field) {
+  std::array<bool, 256> produced{};
+  for (const std::string& expansion : Expansions()) {
+    for (char c : expansion) produced[static_cast<uint8_t>(c)] = true;
+  }
+  std::array<bool, 256> escape{};
+  for (int byte = 0; byte < 256; ++byte) {
+    // The scrambling offsets run from -6 to +3: 3..249 fit everywhere.
+    escape[byte] = !produced[byte] || byte < 3 || byte > 249 || byte == 169;
+  }
+  if (field == Field::kText) escape['&'] = escape[200] = true;
+  return escape;
+}
+
+void AppendReference(std::string& out, char32_t code_point) {
+  out += "&#" + std::to_string(static_cast<uint32_t>(code_point)) + ";";
+}
+
+class Escaper {
+ public:
+  explicit Escaper(Field field) : escape_(MustEscape(field)) {}
+
+  void Byte(std::string& out, uint8_t byte) const {
+    if (!escape_[byte]) {
+      out.push_back(static_cast<char>(byte));
+    } else if (byte == '&') {
+      // "&#38;" would turn into "&" before the named references are read,
+      // and could start one; "&amp;" is read last and never rescanned.
+      out += "&amp;";
+    } else {
+      AppendReference(out, byte);
+    }
+  }
+
+  void CodePoint(std::string& out, char32_t code_point) const {
+    if (const std::optional<uint8_t> byte = UnicodeToWindows1252(code_point)) {
+      Byte(out, *byte);
+    } else if (code_point < 0x100) {
+      out.push_back('?');  // a C1 control: "&#N;" would be read as Windows-1252
+    } else {
+      AppendReference(out, code_point);
+    }
+  }
+
+ private:
+  std::array<bool, 256> escape_;
+};
+
+// The next UTF-8 character at index (advancing it), or nullopt when the
+// bytes there are not valid UTF-8.
+std::optional<char32_t> NextUtf8(std::string_view bytes, size_t& index) {
+  const uint8_t lead = static_cast<uint8_t>(bytes[index]);
+  int length = 0;
+  char32_t value = 0;
+  if (lead < 0x80) {
+    ++index;
+    return lead;
+  } else if (lead >= 0xC2 && lead <= 0xDF) {
+    length = 2, value = lead & 0x1F;
+  } else if (lead >= 0xE0 && lead <= 0xEF) {
+    length = 3, value = lead & 0x0F;
+  } else if (lead >= 0xF0 && lead <= 0xF4) {
+    length = 4, value = lead & 0x07;
+  } else {
+    return std::nullopt;
+  }
+  if (bytes.size() - index < static_cast<size_t>(length)) return std::nullopt;
+  for (int i = 1; i < length; ++i) {
+    const uint8_t next = static_cast<uint8_t>(bytes[index + static_cast<size_t>(i)]);
+    if ((next & 0xC0) != 0x80) return std::nullopt;
+    value = (value << 6) | (next & 0x3F);
+  }
+  const char32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
+  if (value < smallest[length] || value > 0x10FFFF || (value >= 0xD800 && value <= 0xDFFF)) {
+    return std::nullopt;
+  }
+  index += static_cast<size_t>(length);
+  return value;
+}
+
+std::string Packable(std::string_view input, TextEncoding encoding, Field field) {
+  const Escaper escaper(field);
+  std::string out;
+  out.reserve(input.size() + input.size() / 32);
+  if (encoding == TextEncoding::kWindows1252) {
+    for (char c : input) escaper.Byte(out, static_cast<uint8_t>(c));
+    return out;
+  }
+  if (input.starts_with(kByteOrderMark)) input.remove_prefix(kByteOrderMark.size());
+  for (size_t index = 0; index < input.size();) {
+    const std::optional<char32_t> code_point = NextUtf8(input, index);
+    if (!code_point) throw RuntimeError(ErrorNumber::kTypeMismatch, "the text is not UTF-8");
+    escaper.CodePoint(out, *code_point);
+  }
+  return out;
+}
+
+std::string Filler(size_t length) {
+  std::string filler;
+  while (filler.size() < length) filler += kFiller;
+  filler.resize(length);
+  return filler;
+}
+
+}  // namespace
+
+TextEncoding DetectEncoding(std::string_view bytes) {
+  if (bytes.starts_with(kByteOrderMark)) return TextEncoding::kUtf8;
+  bool non_ascii = false;
+  for (size_t index = 0; index < bytes.size();) {
+    if (static_cast<uint8_t>(bytes[index]) >= 0x80) non_ascii = true;
+    if (!NextUtf8(bytes, index)) return TextEncoding::kWindows1252;
+  }
+  return non_ascii ? TextEncoding::kUtf8 : TextEncoding::kWindows1252;
+}
+
+std::string PackableText(std::string_view input, TextEncoding encoding) {
+  return Packable(input, encoding, Field::kText);
+}
+
+std::string PackableDetail(std::string_view input, TextEncoding encoding) {
+  return Packable(input, encoding, Field::kDetail);
+}
+
+std::string PackBody(std::string_view text, std::string_view author, std::string_view title) {
+  // The detail block: field 1 the author, field 3 the title, each closed by
+  // a section mark so every field ends before the last mark.
+  std::string details;
+  details += kSectionMark;
+  details += author;
+  details += kSectionMark;
+  details += kSectionMark;
+  details += title;
+  details += kSectionMark;
+  details += kSectionMark;
+  const size_t half = text.size() / 2;
+  std::string plain = Filler(kLeadInLength);
+  plain.reserve(text.size() + details.size() + kLeadInLength + kTrailerLength);
+  plain += text.substr(half);
+  plain += details;
+  plain += text.substr(0, half);
+  plain += Filler(kTrailerLength);
+  std::string body = ContractWords(plain);
+  Scramble(body);
+  return body;
+}
+
+std::string EbookHeaderBlock() { return "Vireo " + AppVersion(); }
+
+std::string EbookFile(std::string stub, std::string_view body) {
+  stub += HeaderMarker();
+  stub += EbookHeaderBlock();
+  stub += BookMarker();
+  stub += body;
+  return stub;
+}
+
+MakeResult MakeEbook(const MakeRequest& request) {
+  MakeResult result;
+  std::string stage = "cannot read the text " + request.text_path;
+  try {
+    const std::string input = ReadWholeFile(request.text_path);
+    if (input.empty()) {
+      result.message = "the text " + request.text_path + " is empty";
+      return result;
+    }
+    stage = "cannot read the text " + request.text_path + " as UTF-8";
+    const TextEncoding encoding = DetectEncoding(input);
+    const std::string text = PackableText(input, encoding);
+    const std::filesystem::path out_folder =
+        std::filesystem::absolute(request.out_path).parent_path();
+    if (!FolderExists(out_folder.string())) {
+      result.message = "cannot write " + request.out_path + " (no such folder)";
+      return result;
+    }
+    stage = "cannot use the stub " + request.stub_path;
+    std::string stub = PrepareStub(request.stub_path, out_folder.string());
+    stage = "cannot pack the book";
+    const std::string body =
+        PackBody(text, PackableDetail(request.author, DetectEncoding(request.author)),
+                 PackableDetail(request.title, DetectEncoding(request.title)));
+    stage = "cannot write " + request.out_path;
+    WriteFileAtomically(request.out_path, EbookFile(std::move(stub), body));
+    using std::filesystem::perms;
+    std::error_code not_executable;  // the book is complete either way
+    std::filesystem::permissions(request.out_path,
+                                 perms::owner_exec | perms::group_exec | perms::others_exec,
+                                 std::filesystem::perm_options::add, not_executable);
+    result.ok = true;
+    result.text_length = text.size();
+    result.stored_size = body.size();
+    result.message = "made " + request.out_path + ": " + std::to_string(input.size()) +
+                     " bytes of text, book of " + std::to_string(body.size()) + " bytes";
+  } catch (const std::exception& error) {
+    result = MakeResult{};
+    result.message = stage + " (" + error.what() + ")";
+  }
+  return result;
+}
+
+}  // namespace vireo

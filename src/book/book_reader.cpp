@@ -1,0 +1,130 @@
+#include "book/book_reader.h"
+
+#include <cctype>
+#include <filesystem>
+#include <new>
+#include <stdexcept>
+
+#include "book/html_references.h"
+#include "book/load_file.h"
+#include "support/error_trap.h"
+#include "support/file_io.h"
+#include "support/logging.h"
+#include "support/platform.h"
+#include "support/translation.h"
+
+namespace vireo {
+namespace {
+
+constexpr std::string_view kLoadProcedure = "sub loadfile";
+constexpr std::string_view kLoadModule = "frmMain";
+
+std::string TrimmedLower(std::string_view text) {
+  const size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return "";
+  std::string result(text.substr(first, text.find_last_not_of(' ') - first + 1));
+  for (char& c : result) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  return result;
+}
+
+// The error being handled, as the run-time error the trap records.
+RuntimeError CurrentError() {
+  try {
+    throw;
+  } catch (const RuntimeError& error) {
+    return error;
+  } catch (const std::bad_alloc&) {
+    return RuntimeError(ErrorNumber::kOutOfMemory);
+  } catch (const std::out_of_range&) {
+    return RuntimeError(ErrorNumber::kSubscriptOutOfRange);
+  } catch (...) {
+    return RuntimeError(ErrorNumber::kInvalidProcedureCall);
+  }
+}
+
+// Records the error being handled under the loader's name and returns the
+// line the action list shows for it.
+std::string RecordLoadError() {
+  const RuntimeError error = CurrentError();
+  RecordError(error, kLoadProcedure, kLoadModule);
+  return error.description() + " in " + std::string(kLoadProcedure) + "(" +
+         std::to_string(error.number()) + ") of module " + std::string(kLoadModule);
+}
+
+void FinishText(clsBIN& bin, BookReadResult& result) {
+  result.text = bin.TakeResultText();
+  HtmlToChar(result.text);
+  HtmlConstToChar(result.text);
+  result.author = bin.details().author;
+  result.stored_title = bin.details().title;
+  result.has_book = true;
+}
+
+}  // namespace
+
+std::string NoBookMessage(const std::string& path) {
+  if (TrimmedLower(path) == TrimmedLower("Vireo_Stub.exe")) {
+    return GetTranslation("Running Vireo_Stub.exe does nothing. Please use Vireo.exe instead.");
+  }
+  return GetTranslation("There is no ebook stored in this file.");
+}
+
+BookReadResult ReadEmbeddedBook(const std::string& path, const FormattingOptions& options,
+                                const ProgressHandler& progress) {
+  BookReadResult result;
+  try {
+    LogAction("Loading from: " + path);
+    std::string file = ReadWholeFile(path);
+    const std::string header_marker = HeaderMarker();
+    const size_t header_at = file.find(header_marker);
+    if (header_at == std::string::npos) {
+      result.message = NoBookMessage(path);
+      result.show_message = true;
+      return result;
+    }
+    const size_t header_start = header_at + header_marker.size();
+    LogAction("Reading Book");
+    const std::string book_marker = BookMarker();
+    const size_t book_at = file.find(book_marker, header_start);
+    Require(book_at != std::string::npos, ErrorNumber::kInvalidProcedureCall);
+    clsBIN bin(options, progress);
+    bin.set_header_block(file.substr(header_start, book_at - header_start));
+    file.erase(0, book_at + book_marker.size());
+    result.stored_size = file.size();
+    bin.set_body(std::move(file));
+    LogAction("Converting book");
+    bin.ConvertLoadedBRN();
+    FinishText(bin, result);
+    result.title = FileNamePart(path);
+  } catch (...) {
+    result = BookReadResult{};
+    result.message = RecordLoadError();
+  }
+  return result;
+}
+
+BookReadResult ReadPackedBookFile(const std::string& path, PackedFileKind kind,
+                                  const FormattingOptions& options) {
+  BookReadResult result;
+  if (!FileExists(path)) {
+    result.message = "File not found: " + path;
+    return result;
+  }
+  clsBIN bin(options);
+  if (kind == PackedFileKind::kBrn) {
+    bin.ConvertAndLoadBRN(path);
+  } else {
+    bin.ConvertAndLoadBFL(path);
+  }
+  try {
+    result.stored_size = static_cast<size_t>(std::filesystem::file_size(path));
+    FinishText(bin, result);
+    result.title = FileNamePart(path);
+  } catch (...) {
+    result = BookReadResult{};
+    result.message = RecordLoadError();
+  }
+  return result;
+}
+
+}  // namespace vireo

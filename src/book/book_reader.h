@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "book/cls_bin.h"
+#include "book/formatting_options.h"
+
+namespace vireo {
+
+// What loading a book file gave, without a window: the reader's own loading
+// path (LoadFile) runs through these functions too.
+struct BookReadResult {
+  bool has_book = false;
+  std::string text;          // the book text as the reader holds it
+  std::string author;        // detail field 1
+  std::string title;         // the file name part of the path, as the reader shows it
+  std::string stored_title;  // detail field 3, as the book carries it
+  size_t stored_size = 0;    // bytes of the packed body
+  // Why there is no book: the reader's message box text when the file holds
+  // no header marker (show_message true), otherwise the logged error line.
+  std::string message;
+  bool show_message = false;
+};
+
+// Loads the book appended to the file at path, exactly as the reader does
+// at start-up: reads the file, finds the markers, unpacks with clsBIN
+// (progress told to progress, if set) and converts the HTML references.
+// Logs "Loading from: " path, "Reading Book" and "Converting book"; an
+// error (unreadable file, a header marker without a book marker) is logged
+// under "sub loadfile" of "frmMain" and gives no book.
+BookReadResult ReadEmbeddedBook(const std::string& path, const FormattingOptions& options,
+                                const ProgressHandler& progress = nullptr);
+
+// A stand-alone packed book file (".BRN" body, or ".BFL"), unpacked by
+// clsBIN and with its HTML references converted.
+enum class PackedFileKind { kBrn, kBfl };
+BookReadResult ReadPackedBookFile(const std::string& path, PackedFileKind kind,
+                                  const FormattingOptions& options);
+
+// The message LoadFile shows for a file without a header marker (already
+// translated): the stub's own message when path, trimmed and lower-cased,
+// is "vireo_stub.exe", else "There is no ebook stored in this file.".
+std::string NoBookMessage(const std::string& path);
+
+}  // namespace vireo

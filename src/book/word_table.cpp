@@ -1,0 +1,105 @@
+#include "book/word_table.h"
+
+#include <algorithm>
+
+namespace vireo {
+namespace {
+
+// Rows 1-38 of the table; the quirks are deliberate: "er" twice, the blank
+// (32) standing for "f", 231 for a blank, the full stop (46) for "r" and
+// 233 for a full stop.
+struct FixedRow {
+  uint8_t code;
+  std::string_view word;
+};
+constexpr FixedRow kFixedRows[38] = {
+    {201, "tion"}, {202, "the"},  {203, "aid"},     {204, "and"}, {205, "shout"}, {206, "tr"},
+    {207, "ea"},   {208, "st"},   {209, "er"},      {210, "re"},  {211, "you"},   {212, "Clunk"},
+    {213, "Hal"},  {214, "can"},  {215, "console"}, {216, "to"},  {217, "that"},  {218, "not"},
+    {219, "his"},  {220, "what"}, {221, "oo"},      {222, "l"},   {223, "a"},     {224, "\t"},
+    {225, "d"},    {226, "e"},    {227, "ch"},      {228, "s"},   {229, "p"},     {230, "er"},
+    {231, " "},    {32, "f"},     {232, ","},       {233, "."},   {46, "r"},      {234, "\""},
+    {235, "c"},    {236, "Th"}};
+
+// Replaces every occurrence of find (left to right, no rescanning) by the
+// single character code.
+std::string ReplaceByCode(std::string_view text, std::string_view find, char code) {
+  std::string out;
+  out.reserve(text.size());
+  size_t from = 0;
+  for (size_t at = text.find(find); at != std::string_view::npos; at = text.find(find, from)) {
+    out.append(text, from, at - from);
+    out.push_back(code);
+    from = at + find.size();
+  }
+  out.append(text, from);
+  return out;
+}
+
+}  // namespace
+
+WordTable SetupWords() {
+  WordTable table;
+  for (int row = 1; row <= 38; ++row) {
+    table[row] = {kFixedRows[row - 1].code, std::string(kFixedRows[row - 1].word)};
+  }
+  // The number-to-text conversion puts a blank before a non-negative number.
+  for (int digit = 0; digit <= 9; ++digit) {
+    const char digit_char = static_cast<char>('0' + digit);
+    table[39 + digit] = {static_cast<uint8_t>(digit_char + 131), std::string{' ', digit_char}};
+  }
+  return table;
+}
+
+const ExpansionTable& Expansions() {
+  static const ExpansionTable table = [] {
+    ExpansionTable composed;
+    for (int byte = 0; byte < 256; ++byte) composed[byte] = std::string(1, static_cast<char>(byte));
+    // Running the rows in unpacking order over every byte's current
+    // expansion composes the 48 whole-text replacements into one table.
+    const WordTable words = SetupWords();
+    for (int row = kWordRows; row >= 1; --row) {
+      for (std::string& expansion : composed) {
+        std::string next;
+        for (char c : expansion) {
+          if (static_cast<uint8_t>(c) == words[row].code) {
+            next += words[row].word;
+          } else {
+            next.push_back(c);
+          }
+        }
+        expansion = std::move(next);
+      }
+    }
+    return composed;
+  }();
+  return table;
+}
+
+std::string ExpandWords(std::string_view text) {
+  const ExpansionTable& table = Expansions();
+  size_t length = 0;
+  for (char c : text) length += table[static_cast<uint8_t>(c)].size();
+  std::string out(length, '\0');
+  char* write = out.data();
+  for (char c : text) {
+    const std::string& expansion = table[static_cast<uint8_t>(c)];
+    if (expansion.size() == 1) {
+      *write++ = expansion[0];
+    } else {
+      write = std::copy(expansion.begin(), expansion.end(), write);
+    }
+  }
+  return out;
+}
+
+std::string ContractWords(std::string_view text) {
+  const WordTable words = SetupWords();
+  std::string contracted(text);
+  for (int row = 1; row <= kWordRows; ++row) {
+    contracted = ReplaceByCode(contracted, words[row].word, static_cast<char>(words[row].code));
+  }
+  return contracted;
+}
+
+}  // namespace vireo

@@ -1,0 +1,144 @@
+#include "prefs/reader_preferences.h"
+
+#include "prefs/settings_get_set.h"
+#include "support/checked_int16.h"
+#include "support/error_trap.h"
+#include "support/platform.h"
+
+namespace vireo {
+namespace {
+
+constexpr std::string_view kModule = "frmMain";
+// A window this close to the screen's size in either dimension opens
+// maximised.
+constexpr double kMaximiseFraction = 0.95;
+constexpr double kDefaultWidth = 9500;
+constexpr double kDefaultWidthBarHidden = 3500;
+constexpr double kDefaultHeight = 6570;
+
+// Each statement of ReadSettings is a step of its own: an error skips only
+// that step.
+void ReadStep(auto&& step) { Trap("sub readsettings", kModule, step); }
+void StoreStep(auto&& step) { Trap("sub storesettings", kModule, step); }
+
+int ReadInteger(const std::string& key, const SettingValue& default_value) {
+  return Int16::FromDouble(sget(key, default_value).ToNumber());
+}
+
+bool ReadBool(const std::string& key, bool default_value) {
+  return sget(key, default_value).ToBoolean();
+}
+
+uint32_t ReadColour(const std::string& key, uint32_t default_value) {
+  return static_cast<uint32_t>(sget(key, static_cast<int64_t>(default_value)).ToLong());
+}
+
+SettingValue ColourValue(uint32_t colour) { return SettingValue(static_cast<int64_t>(colour)); }
+
+// Maximises a window nearly as large as the screen; otherwise sets its height
+// (with the resizing flag raised, so that the resize handler does not lay the
+// book out twice) and then its width.
+void FitToScreen(const ReaderPreferences& prefs, PreferencesHost& host) {
+  bool maximise = false;
+  ReadStep([&] {
+    const WindowSize screen = host.ScreenSize();
+    maximise = prefs.window_height >= kMaximiseFraction * screen.height ||
+               prefs.window_width >= kMaximiseFraction * screen.width;
+    if (maximise) host.MaximiseWindow();
+  });
+  if (maximise) return;
+  ReadStep([&] { host.SetResizing(true); });
+  ReadStep([&] { host.SetWindowHeight(prefs.window_height); });
+  ReadStep([&] { host.SetResizing(false); });
+  ReadStep([&] { host.SetWindowWidth(prefs.window_width); });
+}
+
+void ReadColours(ReaderPreferences& prefs, PreferencesHost& host, const SystemColours& system) {
+  ReadStep([&] { prefs.paper_colour = ReadColour("PaperColour", system.window); });
+  ReadStep([&] { prefs.ink_colour = ReadColour("InkColour", system.window_text); });
+  ReadStep([&] { prefs.highlight_colour = ReadColour("HLColour", 45056); });
+  ReadStep([&] { prefs.page_number_colour = ReadColour("PNColour", 0x808080); });
+  ReadStep([&] { host.SetPageColours(); });
+}
+
+}  // namespace
+
+void ReadSettings(ReaderPreferences& prefs, PreferencesHost& host, const SystemColours& system) {
+  ReadStep([&] {
+    prefs.font_name = sget("FontName", "Times New Roman").ToText();
+    host.ApplyFontName(prefs.font_name);
+  });
+  ReadStep([&] { prefs.single_page_mode = ReadBool("SinglePageMode", false); });
+  ReadStep([&] {
+    prefs.font_size = ReadInteger("FontSize", "10");
+    host.ApplyFontSize(prefs.font_size);
+  });
+  ReadStep([&] {
+    prefs.justify = ReadBool("Justify", true);
+    host.SetJustify(prefs.justify);
+  });
+  ReadStep([&] {
+    prefs.indented = ReadBool("Indented", true);
+    host.SetIndent(prefs.indented);
+  });
+  ReadStep([&] { prefs.bar_hidden = ReadBool("BarHidden", false); });
+  ReadStep([&] {
+    prefs.underscores = ReadBool("UnderScores", false);
+    host.TickUnderscores(prefs.underscores);
+  });
+  ReadStep([&] {
+    prefs.extra_paragraph_line = ReadBool("ExtraParagraphLine", false);
+    host.TickExtraParagraphLine(prefs.extra_paragraph_line);
+  });
+  ReadColours(prefs, host, system);
+  ReadStep([&] { prefs.page_sweep_width = ReadInteger("PageSweepWidth", 2100); });
+  // The default width follows the bar, the key follows the page mode.
+  ReadStep([&] {
+    const double default_width = prefs.bar_hidden ? kDefaultWidthBarHidden : kDefaultWidth;
+    const char* key = prefs.single_page_mode ? "SingleWinWidth" : "WinWidth";
+    prefs.window_width = sget(key, default_width).ToNumber();
+  });
+  ReadStep([&] {
+    const char* key = prefs.single_page_mode ? "SingleWinHeight" : "WinHeight";
+    prefs.window_height = sget(key, kDefaultHeight).ToNumber();
+  });
+  FitToScreen(prefs, host);
+  ReadStep([&] { prefs.instant_page_turn = ReadBool("InstantPageTurn", false); });
+  ReadStep([&] { prefs.texture_num = ReadInteger("TextureNum", 1); });
+}
+
+void ReadDefaultPath(ReaderPreferences& prefs, const std::string& executable_folder) {
+  Trap("sub readdefaultpath", kModule, [&] {
+    std::string path = sget("Path", executable_folder).ToText();
+    if (!FolderExists(path)) path = executable_folder;
+    prefs.path = path;
+  });
+}
+
+void StoreSettings(const ReaderPreferences& prefs, PreferencesHost& host,
+                   const std::string& settings_path) {
+  StoreStep([&] { host.StoreBookmark(); });
+  StoreStep([&] { sset("SinglePageMode", prefs.single_page_mode); });
+  StoreStep([&] { sset("FontSize", prefs.font_size); });
+  StoreStep([&] { sset("BarHidden", prefs.bar_hidden); });
+  StoreStep([&] { sset("FontName", prefs.font_name); });
+  StoreStep([&] { sset("Justify", prefs.justify); });
+  StoreStep([&] { sset("Indented", prefs.indented); });
+  StoreStep([&] { sset("Path", prefs.path); });
+  StoreStep([&] { sset("PaperColour", ColourValue(prefs.paper_colour)); });
+  StoreStep([&] { sset("InkColour", ColourValue(prefs.ink_colour)); });
+  StoreStep([&] { sset("HLColour", ColourValue(prefs.highlight_colour)); });
+  StoreStep([&] { sset("PNColour", ColourValue(prefs.page_number_colour)); });
+  // The size is stored as it is, also when the window is maximised.
+  StoreStep([&] {
+    const WindowSize size = host.CurrentWindowSize();
+    sset(prefs.single_page_mode ? "SingleWinWidth" : "WinWidth", size.width);
+    sset(prefs.single_page_mode ? "SingleWinHeight" : "WinHeight", size.height);
+  });
+  StoreStep([&] { sset("UnderScores", host.UnderscoresTicked()); });
+  StoreStep([&] { sset("ExtraParagraphLine", host.ExtraParagraphLineTicked()); });
+  StoreStep([&] { savesettings(settings_path); });
+  StoreStep([&] { host.SaveBookmarks(); });
+}
+
+}  // namespace vireo

@@ -1,0 +1,186 @@
+// The ebook maker and the reader together: whatever text goes into a book,
+// the reader shows exactly the reformatted text.
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <random>
+
+#include "book/book_maker.h"
+#include "book/book_reader.h"
+#include "book/load_file.h"
+#include "book/random_text.h"
+#include "book/replace_known_char_reference.h"
+#include "test_support.h"
+
+namespace vireo {
+namespace {
+
+const std::string kStub = "#!stub\x7f\x01\x02 not a real program\n";
+
+class RoundTrip : public ::testing::Test {
+ protected:
+  // Packs a Windows-1252 text into an ebook file and reads it back.
+  BookReadResult MakeAndRead(const std::string& text, const FormattingOptions& options,
+                             const std::string& author = "An Author",
+                             const std::string& title = "A Title") {
+    const std::string body =
+        PackBody(PackableText(text, TextEncoding::kWindows1252),
+                 PackableDetail(author, TextEncoding::kWindows1252),
+                 PackableDetail(title, TextEncoding::kWindows1252));
+    test::WriteFile(path_, EbookFile(kStub, body));
+    return ReadEmbeddedBook(path_, options);
+  }
+
+  void ExpectRoundTrip(const std::string& text, const std::string& what) {
+    for (const FormattingOptions& options : test::AllFormattingOptions()) {
+      std::string expected = text;
+      test::ReplaceKnownCharStepByStep(expected, options);
+      const BookReadResult book = MakeAndRead(text, options);
+      ASSERT_TRUE(book.has_book) << what;
+      ASSERT_EQ(book.text, expected) << what << " options " << options.reformat
+                                     << options.underscores << options.extra_line;
+    }
+  }
+
+  test::TempFolder folder_;
+  std::string path_ = folder_.File("Book");
+};
+
+TEST_F(RoundTrip, EveryByteValue) {
+  std::string all;
+  for (int byte = 0; byte < 256; ++byte) all.push_back(static_cast<char>(byte));
+  std::string backwards(all.rbegin(), all.rend());
+  ExpectRoundTrip(all + backwards + all, "every byte");
+}
+
+TEST_F(RoundTrip, LongRunsOfBlanksAndLineEnds) {
+  ExpectRoundTrip(std::string(3000, ' ') + std::string(2000, '\r') + "x" +
+                      std::string(2000, '\n') + std::string(1000, ' ') + "\r\n\r\n",
+                  "runs");
+}
+
+TEST_F(RoundTrip, RandomBytes) {
+  std::mt19937 random(42);
+  std::uniform_int_distribution<size_t> length(0, 3000);
+  for (int round = 0; round < 15; ++round) {
+    ExpectRoundTrip(test::RandomBytes(random, length(random)), "round " + std::to_string(round));
+  }
+}
+
+TEST_F(RoundTrip, HostilePieces) {
+  std::mt19937 random(5);
+  std::vector<std::string> pieces = test::ReformattingPieces();
+  for (const char* extra : {"&amp;", "&#201;", "&eacute;", "&#x41;", "\xC9", " \xC8", "\xA9",
+                            "\xB3", "f0", "the", "\xFF", "\x00", "&#", ";", "tion"}) {
+    pieces.emplace_back(extra);
+  }
+  for (int round = 0; round < 15; ++round) {
+    ExpectRoundTrip(test::RandomFromPieces(random, pieces, 400), "round " + std::to_string(round));
+  }
+}
+
+TEST_F(RoundTrip, Prose) {
+  std::mt19937 random(1);
+  ExpectRoundTrip(test::ProseLikeText(random, 60000), "prose");
+}
+
+TEST_F(RoundTrip, TheDetailsComeBack) {
+  const BookReadResult book = MakeAndRead("text", {}, "M\xE9lanie & Co", "\xC9t\xE9 \xA9 2001");
+  // The word codes (201, 233 ...) and 169 cannot stand in a detail field;
+  // they are written as references there, and details are shown as stored.
+  EXPECT_EQ(book.author, "M&#233;lanie & Co");
+  EXPECT_EQ(book.stored_title, "&#201;t&#233; &#169; 2001");
+  EXPECT_EQ(book.title, "Book");
+}
+
+TEST(PackableText, Utf8IsConvertedToWindows1252) {
+  const std::string utf8 = "\xEF\xBB\xBF" "caf\xC3\xA9 \xE2\x82\xAC \xCE\xB1 \xC2\x85!";
+  ASSERT_EQ(DetectEncoding(utf8), TextEncoding::kUtf8);
+  // é is 233, a word code, written as a reference; the euro sign is 128;
+  // alpha has no Windows-1252 character, the C1 control 133 neither.
+  EXPECT_EQ(PackableText(utf8, TextEncoding::kUtf8), "caf&#233; \x80 &#945; ?!");
+}
+
+TEST(PackableText, DetectsWindows1252) {
+  EXPECT_EQ(DetectEncoding("caf\xE9"), TextEncoding::kWindows1252);
+  EXPECT_EQ(DetectEncoding("plain ASCII"), TextEncoding::kWindows1252);
+  EXPECT_EQ(DetectEncoding("\xC3\xA9t\xC3\xA9"), TextEncoding::kUtf8);
+}
+
+TEST(PackableText, EscapesWhatThePackedFormCannotCarry) {
+  EXPECT_EQ(PackableText("a&b\xC8\xA9\xC9\xB3\x01\xFA\xF9", TextEncoding::kWindows1252),
+            "a&amp;b&#200;&#169;&#201;&#179;&#1;&#250;\xF9");
+  EXPECT_EQ(PackableDetail("a&b\xC8\xA9", TextEncoding::kWindows1252), "a&b\xC8&#169;");
+}
+
+// ---- MakeEbook: files, stubs and bad input ----
+
+class MakeEbookTest : public ::testing::Test {
+ protected:
+  MakeRequest Request(const std::string& text) {
+    test::WriteFile(folder_.File("book.txt"), text);
+    test::WriteFile(folder_.File("stub"), kStub);
+    return {folder_.File("book.txt"), folder_.File("out"), folder_.File("stub"), "Au", "Ti"};
+  }
+  // Names in the folder other than the inputs: nothing half-written stays.
+  std::vector<std::string> Leftovers() const {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(folder_.path())) {
+      const std::string name = entry.path().filename().string();
+      if (name != "book.txt" && name != "stub") names.push_back(name);
+    }
+    return names;
+  }
+  test::TempFolder folder_;
+};
+
+TEST_F(MakeEbookTest, WritesAnExecutableBookBehindTheStub) {
+  const MakeResult result = MakeEbook(Request("Hello.\n"));
+  ASSERT_TRUE(result.ok) << result.message;
+  const std::string file = test::ReadFile(folder_.File("out"));
+  EXPECT_EQ(file.substr(0, kStub.size()), kStub);
+  EXPECT_EQ(file.substr(kStub.size(), HeaderMarker().size()), HeaderMarker());
+  const auto permissions = std::filesystem::status(folder_.File("out")).permissions();
+  EXPECT_NE(permissions & std::filesystem::perms::owner_exec, std::filesystem::perms::none);
+  const BookReadResult book = ReadEmbeddedBook(folder_.File("out"), {});
+  EXPECT_EQ(book.text, "Hello. \n ");
+  EXPECT_EQ(book.author, "Au");
+  EXPECT_EQ(book.stored_title, "Ti");
+}
+
+TEST_F(MakeEbookTest, AStubThatIsABookIsCutAtItsMarker) {
+  ASSERT_TRUE(MakeEbook(Request("first")).ok);
+  MakeRequest again = Request("second");
+  again.stub_path = folder_.File("out");
+  again.out_path = folder_.File("out2");
+  ASSERT_TRUE(MakeEbook(again).ok);
+  EXPECT_EQ(ReadEmbeddedBook(folder_.File("out2"), {}).text, "second");
+  EXPECT_EQ(test::ReadFile(folder_.File("out2")).substr(0, kStub.size() + 1),
+            kStub + HeaderMarker().substr(0, 1));
+}
+
+TEST_F(MakeEbookTest, BadInputLeavesNoFile) {
+  MakeRequest empty = Request("");
+  EXPECT_FALSE(MakeEbook(empty).ok);
+  MakeRequest missing = Request("x");
+  missing.text_path = folder_.File("missing.txt");
+  EXPECT_FALSE(MakeEbook(missing).ok);
+  MakeRequest no_stub = Request("x");
+  no_stub.stub_path = folder_.File("missing-stub");
+  EXPECT_FALSE(MakeEbook(no_stub).ok);
+  MakeRequest no_folder = Request("x");
+  no_folder.out_path = folder_.File("no/such/folder/out");
+  EXPECT_FALSE(MakeEbook(no_folder).ok);
+  std::filesystem::create_directory(folder_.File("a-folder"));
+  MakeRequest onto_folder = Request("x");
+  onto_folder.out_path = folder_.File("a-folder");
+  const MakeResult result = MakeEbook(onto_folder);
+  EXPECT_FALSE(result.ok);
+  EXPECT_NE(result.message.find("cannot write"), std::string::npos) << result.message;
+  EXPECT_EQ(Leftovers(), std::vector<std::string>{"a-folder"});
+  EXPECT_TRUE(std::filesystem::is_empty(folder_.File("a-folder")));
+}
+
+}  // namespace
+}  // namespace vireo

@@ -1,0 +1,187 @@
+#include "book/cls_bin.h"
+
+#include <gtest/gtest.h>
+
+#include <utility>
+
+#include "book/book_test_support.h"
+#include "test_support.h"
+
+namespace vireo {
+namespace {
+
+using test::HandPackedBody;
+using test::HandScramble;
+using test::LogCapture;
+
+struct Progress {
+  std::string caption;
+  int value;
+  int maximum;
+  bool operator==(const Progress&) const = default;
+};
+
+// A conversion that records its progress events.
+struct Recorded {
+  std::vector<Progress> events;
+  clsBIN bin;
+  explicit Recorded(FormattingOptions options = {})
+      : bin(options, [this](std::string_view caption, int value, int maximum) {
+          events.push_back({std::string(caption), value, maximum});
+        }) {}
+};
+
+const std::string kDetails = "\xA9" "Ann\xA9" "F2\xA9" "Tit\xA9" "F4\xA9";
+
+TEST(clsBIN, UnpacksAHandBuiltBodyWithItsDetails) {
+  Recorded run;
+  run.bin.set_header_block("header");
+  run.bin.set_body(HandPackedBody("Hello", "World", kDetails));
+  run.bin.ConvertLoadedBRN();
+  EXPECT_EQ(run.bin.result_text(), "HelloWorld");
+  EXPECT_EQ(run.bin.details().author, "Ann");
+  EXPECT_EQ(run.bin.details().title, "Tit");
+  EXPECT_EQ(run.bin.detail_block(), "\xA9" "Ann\xA9" "F2\xA9" "Tit\xA9" "F4");
+  EXPECT_EQ(run.bin.header_block(), "");
+  EXPECT_EQ(run.events, (std::vector<Progress>{
+                            {"Unpacking", 30, 100}, {"Reformatting Text", 50, 100}, {"Finishing", 80, 100}}));
+}
+
+TEST(clsBIN, WordCodesExpandWithTheirQuirks) {
+  // the, blank, "r" (the full stop), ".", "f0", "f" (the blank), "f9", tab,
+  // "er", "Th", and the placeholder 200 after a blank.
+  const std::string stored_text = "\xCA\xE7.\xE9\xB3 \xBC\xE0\xE6\xEC\xE7\xC8z";
+  clsBIN bin;
+  bin.set_body(HandPackedBody(stored_text, "", kDetails));
+  bin.ConvertLoadedBRN();
+  EXPECT_EQ(bin.result_text(), "the r.f0ff9   erTh \n z");
+}
+
+TEST(clsBIN, TheOffsetPatternCountsFromTheFirstCharacterOfTheBody) {
+  // One more lead-in character shifts every stored code to another offset:
+  // the same stored bytes then no longer decode to the text.
+  const std::string plain = std::string(2000, 'x') + "Hello" + kDetails + std::string(2000, 'y');
+  clsBIN bin;
+  bin.set_body("x" + HandScramble(plain));
+  bin.DecodeBin();
+  EXPECT_NE(bin.body().substr(1), plain);
+  clsBIN aligned;
+  aligned.set_body(HandScramble(plain));
+  aligned.DecodeBin();
+  EXPECT_EQ(aligned.body(), plain);
+}
+
+TEST(clsBIN, AShortBodyLeavesNothingAndLogsTheMissingDetails) {
+  LogCapture log;
+  clsBIN bin;
+  bin.set_body(HandScramble(std::string(3999, 'q')));
+  bin.ConvertLoadedBRN();
+  EXPECT_EQ(bin.result_text(), "");
+  EXPECT_EQ(LogCapture::Entries(),
+            (std::vector<std::string>{
+                "Invalid procedure call or argument in sub brnpostextract(5) of module clsBIN",
+                "Invalid procedure call or argument in sub decodedetails(5) of module clsBIN"}));
+}
+
+TEST(clsBIN, AnOverflowInDescramblingLeavesTheRestAsItIs) {
+  LogCapture log;
+  clsBIN bin;
+  // Positions 1 and 2 decode (16 - 2, 16 + 3); position 3 would be 1 - 2.
+  bin.set_body(std::string("\x10\x10\x01\x10", 4));
+  bin.DecodeBin();
+  EXPECT_EQ(bin.body(), std::string("\x0E\x13\x01\x10", 4));
+  EXPECT_EQ(LogCapture::Entries(),
+            std::vector<std::string>{"Overflow in sub decodebin(6) of module clsBIN"});
+}
+
+TEST(clsBIN, MissingTitleFieldKeepsTheAuthor) {
+  LogCapture log;
+  clsBIN bin;
+  bin.set_body(HandPackedBody("Hello", "World", "\xA9" "Ann\xA9" "F2\xA9"));
+  bin.ConvertLoadedBRN();
+  EXPECT_EQ(bin.details().author, "Ann");
+  EXPECT_EQ(bin.details().title, "");
+  EXPECT_EQ(bin.result_text(), "HelloWorld");
+  EXPECT_EQ(LogCapture::Entries(),
+            std::vector<std::string>{
+                "Invalid procedure call or argument in sub decodedetails(5) of module clsBIN"});
+}
+
+TEST(clsBIN, ReadsABrnFileAndTakesItsFolder) {
+  test::TempFolder folder;
+  const std::string path = folder.File("book.brn");
+  test::WriteFile(path, HandPackedBody("one\r", "two", kDetails));
+  Recorded run(FormattingOptions{false, false, false});
+  run.bin.ConvertAndLoadBRN(path);
+  EXPECT_EQ(run.bin.result_text(), "one \n two");
+  EXPECT_EQ(run.bin.details().title, "Tit");
+  EXPECT_EQ(run.bin.book_folder(), folder.str() + "/");
+  EXPECT_EQ(run.events, (std::vector<Progress>{{"Reading BRN file", 20, 100},
+                                               {"Unpacking", 30, 100},
+                                               {"Reformatting Text", 60, 100},
+                                               {"Finishing", 80, 100}}));
+}
+
+// A BFL header: 1000 characters stored with 50 added, starting with 250.
+std::string BflHeader(const std::string& details) {
+  std::string header = std::string(1, '\xC8') + "pad" + details;
+  header.resize(1000, 'p');
+  for (char& c : header) c = static_cast<char>(static_cast<unsigned char>(c) + 50);
+  return header;
+}
+
+TEST(clsBIN, ReadsABflFileWithItsHeader) {
+  test::TempFolder folder;
+  const std::string path = folder.File("book.bfl");
+  test::WriteFile(path, BflHeader(kDetails) + HandScramble("Plain"));
+  Recorded run;
+  run.bin.ConvertAndLoadBFL(path);
+  EXPECT_EQ(run.bin.result_text(), "Plain");
+  EXPECT_EQ(run.bin.details().author, "Ann");
+  EXPECT_EQ(run.bin.details().title, "Tit");
+  EXPECT_EQ(run.events, (std::vector<Progress>{{"Reading file", 10, 100},
+                                               {"Unpacking", 50, 100},
+                                               {"Reformatting Text", 70, 100},
+                                               {"Finishing", 90, 100}}));
+}
+
+TEST(clsBIN, ABflFileWithoutTheFlagIsUnpackedWithoutDetails) {
+  test::TempFolder folder;
+  const std::string path = folder.File("plain.bfl");
+  test::WriteFile(path, HandScramble("Plain"));
+  clsBIN bin;
+  bin.ConvertAndLoadBFL(path);
+  EXPECT_EQ(bin.result_text(), "Plain");
+  EXPECT_EQ(bin.details().author, "");
+}
+
+TEST(clsBIN, ABflHeaderBelowFiftyIsAnOverflowAndStaysInTheBody) {
+  LogCapture log;
+  std::string header = BflHeader(kDetails);
+  header[500] = '\x10';
+  clsBIN bin;
+  bin.set_body(header);
+  EXPECT_FALSE(bin.CheckForBflHeader());
+  EXPECT_EQ(bin.body(), header);
+  EXPECT_EQ(LogCapture::Entries(),
+            std::vector<std::string>{"Overflow in function checkforbflheader(6) of module clsBIN"});
+}
+
+TEST(clsBIN, AMissingFileIsLoggedInReadBin) {
+  LogCapture log;
+  clsBIN bin;
+  bin.ReadBin("/nonexistent/book.brn");
+  EXPECT_EQ(bin.body(), "");
+  ASSERT_FALSE(LogCapture::Entries().empty());
+  EXPECT_EQ(LogCapture::Entries()[0], "File not found in sub readbin(53) of module clsBIN");
+}
+
+TEST(clsBIN, BookFolderOfAPath) {
+  EXPECT_EQ(BookFolderOf("books/old/book.brn"), "books/old/");
+  EXPECT_EQ(BookFolderOf("C:\\books\\book.brn"), "C:\\books\\");
+  EXPECT_EQ(BookFolderOf("book.brn").substr(0, 1), ".");
+  EXPECT_EQ(BookFolderOf("book.brn").size(), 2u);
+}
+
+}  // namespace
+}  // namespace vireo

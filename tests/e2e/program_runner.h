@@ -1,0 +1,68 @@
+#pragma once
+
+#include <sys/wait.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "test_support.h"
+
+namespace vireo::test {
+
+// A copy of the reader in a fresh program folder: the executable and the
+// helper library, as an installation has them.
+class ProgramFolder {
+ public:
+  ProgramFolder() {
+    for (const char* name : {"Vireo", "libvHtml.so", "vireo-tool"}) {
+      const auto source = std::filesystem::path(BinFolder()) / name;
+      if (std::filesystem::exists(source)) {
+        std::filesystem::copy_file(source, folder_.path() / name);
+      }
+    }
+  }
+  std::string Path(const std::string& name) const { return folder_.File(name); }
+  std::string Log() const { return ReadFile(Path("log.txt")); }
+  const TempFolder& folder() const { return folder_; }
+
+ private:
+  TempFolder folder_;
+};
+
+struct RunResult {
+  int status = -1;
+  std::string out;
+  std::string err;
+};
+
+// Runs a shell command line with extra "NAME=value" settings in the
+// environment, capturing its output; the exit status is -1 when it did not
+// exit normally.
+inline RunResult Run(const std::string& command, const std::vector<std::string>& environment,
+                     const TempFolder& scratch) {
+  std::string line;
+  for (const std::string& setting : environment) line += setting + " ";
+  const std::string out = scratch.File("run.out");
+  const std::string err = scratch.File("run.err");
+  line += command + " >" + out + " 2>" + err;
+  const int raw = std::system(("env " + line).c_str());
+  RunResult result;
+  result.status = WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
+  result.out = ReadFile(out);
+  result.err = ReadFile(err);
+  return result;
+}
+
+// The environment of an unattended reader: no display, no dialogs.
+inline std::vector<std::string> Unattended(const TempFolder& folder,
+                                           std::vector<std::string> more = {}) {
+  more.push_back("QT_QPA_PLATFORM=offscreen");
+  more.push_back("VIREO_NONINTERACTIVE=1");
+  more.push_back("XDG_DATA_HOME=" + folder.File("xdg"));
+  more.push_back("XDG_RUNTIME_DIR=" + folder.str());
+  return more;
+}
+
+}  // namespace vireo::test

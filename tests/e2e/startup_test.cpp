@@ -1,0 +1,75 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "e2e/program_runner.h"
+
+namespace vireo {
+namespace {
+
+using testing::HasSubstr;
+
+// Positions of the texts in the log, in the order given; fails when one is
+// missing or out of order.
+void ExpectInOrder(const std::string& log, const std::vector<std::string>& texts) {
+  size_t at = 0;
+  for (const std::string& text : texts) {
+    const size_t found = log.find(text, at);
+    ASSERT_NE(found, std::string::npos) << "missing or out of order: " << text << "\n" << log;
+    at = found + text.size();
+  }
+}
+
+TEST(Startup, TheBareReaderStartsReportsNoBookAndShutsDownInOrder) {
+  test::ProgramFolder program;
+  const auto result =
+      test::Run(program.Path("Vireo"),
+                test::Unattended(program.folder(), {"VIREO_QUIT_AFTER_MS=300"}), program.folder());
+  EXPECT_EQ(result.status, 0) << result.err;
+  EXPECT_THAT(result.err, HasSubstr("There is no ebook stored in this file."));
+  const std::string log = program.Log();
+  EXPECT_EQ(log.find("Log file created "), 14u) << log;
+  ExpectInOrder(log,
+                {"Operating System: ", "\r\n", "Startup\r\n", "Showing splash\r\n",
+                 "Registering File Extensions\r\n", "Loading Textures\r\n", "Scanning fonts\r\n",
+                 "Reading settings\r\n", "Drawing blank book\r\n", "Attempting to load Vireo\r\n",
+                 "Loading from: " + program.Path("Vireo"), "Startup complete\r\n",
+                 "Listing last 40 actions: \r\n", "End of actions list\r\n", "Shutdown\r\n"});
+  EXPECT_TRUE(test::FileExists(program.Path("Vireo.ini")));
+}
+
+TEST(Startup, TerminationAsksTheReaderToQuitAsExitDoes) {
+  test::ProgramFolder program;
+  const auto result = test::Run(
+      "sh -c '" + program.Path("Vireo") + " & pid=$!; sleep 1.5; kill -TERM $pid; wait $pid'",
+      test::Unattended(program.folder()), program.folder());
+  EXPECT_EQ(result.status, 0) << result.err;
+  EXPECT_THAT(program.Log(), HasSubstr("Shutdown\r\n"));
+}
+
+TEST(Startup, WithoutTheHelperLibraryTheReaderEndsBeforeAnyWindow) {
+  test::ProgramFolder program;
+  std::filesystem::remove(program.Path("libvHtml.so"));
+  const auto result =
+      test::Run(program.Path("Vireo"),
+                test::Unattended(program.folder(), {"VIREO_QUIT_AFTER_MS=300"}), program.folder());
+  EXPECT_NE(result.status, 0);
+  EXPECT_THAT(
+      result.err,
+      HasSubstr("libvHtml.so is required. This DLL is contained in the Vireo installer at "));
+  EXPECT_FALSE(test::FileExists(program.Path("log.txt")));
+  EXPECT_FALSE(test::FileExists(program.Path("Vireo.ini")));
+}
+
+TEST(Startup, TheHeadlessScreenshotModeWritesAPicture) {
+  test::ProgramFolder program;
+  const std::string picture = program.Path("window.png");
+  const auto result = test::Run(program.Path("Vireo"),
+                                test::Unattended(program.folder(), {"VIREO_SCREENSHOT=" + picture}),
+                                program.folder());
+  EXPECT_EQ(result.status, 0) << result.err;
+  EXPECT_THAT(result.out, HasSubstr(picture));
+  EXPECT_EQ(test::ReadFile(picture).substr(1, 3), "PNG");
+}
+
+}  // namespace
+}  // namespace vireo

@@ -1,0 +1,130 @@
+#include "nav/page_nav_dialog.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+
+namespace vireo {
+namespace {
+
+class PageNavDialogTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    dialog.Prepare(5, 40);
+    dialog.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+    slider = dialog.findChild<QWidget*>("Picture1");
+    text = dialog.findChild<QLineEdit*>("txtGotoPage");
+    ASSERT_NE(slider, nullptr);
+    ASSERT_NE(text, nullptr);
+  }
+
+  // A mouse move over the slider with the left button held.
+  void DragTo(int x) {
+    const QPointF pos(x, slider->height() / 2);
+    QMouseEvent move(QEvent::MouseMove, pos, slider->mapToGlobal(pos), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(slider, &move);
+  }
+
+  // The whole text of the box, then one key released in it.
+  void Type(const QString& value) {
+    text->setText(value);
+    QTest::keyClick(text, Qt::Key_End);
+  }
+
+  frmPageNav dialog;
+  QWidget* slider = nullptr;
+  QLineEdit* text = nullptr;
+};
+
+TEST_F(PageNavDialogTest, ControlsCarryTheirDesignNamesAndCaptions) {
+  EXPECT_EQ(text->text(), "5");
+  for (auto [name, caption] : {std::pair{"cmdFirst", "First"},
+                               {"cmdLast", "Last"},
+                               {"cmdOK", "OK"},
+                               {"cmdCancel", "Cancel"}}) {
+    auto* button = dialog.findChild<QPushButton*>(name);
+    ASSERT_NE(button, nullptr) << name;
+    EXPECT_EQ(button->text(), caption);
+  }
+}
+
+TEST_F(PageNavDialogTest, DraggingPastEitherEndChoosesTheFirstOrLastPage) {
+  QTest::mousePress(slider, Qt::LeftButton, {}, QPoint(slider->width() / 2, 10));
+  DragTo(-80);
+  EXPECT_EQ(dialog.state().selected_page(), 1);
+  EXPECT_EQ(text->text(), "1");
+  DragTo(slider->width() + 80);
+  EXPECT_EQ(dialog.state().selected_page(), 40);
+  EXPECT_EQ(text->text(), "40");
+  QTest::mouseRelease(slider, Qt::LeftButton, {}, QPoint(slider->width() + 80, 10));
+  EXPECT_TRUE(dialog.isVisible()) << "a release away from the slider is no click";
+}
+
+TEST_F(PageNavDialogTest, AClickOnTheSliderAcceptsThePageUnderIt) {
+  QTest::mouseClick(slider, Qt::LeftButton, {}, QPoint(slider->width() - 1, 10));
+  EXPECT_FALSE(dialog.isVisible());
+  EXPECT_FALSE(dialog.state().cancelled());
+  EXPECT_EQ(dialog.state().selected_page(), 40);
+}
+
+TEST_F(PageNavDialogTest, TypingZeroNegativeTextOrTooLargeLeavesTheChoice) {
+  for (const char* value : {"0", "-3", "abc", "41"}) {
+    Type(value);
+    EXPECT_EQ(dialog.state().selected_page(), 5) << value;
+  }
+  Type("17");
+  EXPECT_EQ(dialog.state().selected_page(), 17);
+  EXPECT_TRUE(dialog.isVisible());
+}
+
+TEST_F(PageNavDialogTest, KeysFAndLChooseTheFirstAndLastPage) {
+  QTest::keyClick(text, Qt::Key_L);
+  EXPECT_FALSE(dialog.isVisible());
+  EXPECT_EQ(dialog.state().selected_page(), 40);
+  EXPECT_FALSE(dialog.state().cancelled());
+
+  dialog.Prepare(5, 40);
+  dialog.show();
+  QTest::keyClick(&dialog, Qt::Key_F);
+  EXPECT_EQ(dialog.state().selected_page(), 1);
+}
+
+TEST_F(PageNavDialogTest, ClosingByTheFrameCancels) {
+  dialog.close();
+  EXPECT_TRUE(dialog.state().cancelled());
+}
+
+// Runs action once the dialog's modal loop is running.
+void WhenModal(QDialog& dialog, std::function<void()> action) {
+  QTimer::singleShot(10, &dialog, [&dialog, action] {
+    if (QApplication::activeModalWidget() == &dialog) {
+      action();
+    } else {
+      WhenModal(dialog, action);
+    }
+  });
+}
+
+TEST(PageNavDialogModal, ChoosePageReturnsTheChoiceOrNothingWhenCancelled) {
+  frmPageNav dialog;
+  WhenModal(dialog, [&] {
+    dialog.findChild<QLineEdit*>("txtGotoPage")->setText("12");
+    QTest::keyClick(dialog.findChild<QLineEdit*>("txtGotoPage"), Qt::Key_End);
+    dialog.findChild<QPushButton*>("cmdOK")->click();
+  });
+  EXPECT_EQ(dialog.ChoosePage(3, 20), std::optional<int>(12));
+
+  WhenModal(dialog, [&] { QTest::keyClick(&dialog, Qt::Key_Escape); });
+  EXPECT_EQ(dialog.ChoosePage(3, 20), std::nullopt);
+}
+
+}  // namespace
+}  // namespace vireo

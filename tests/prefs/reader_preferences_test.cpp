@@ -1,0 +1,229 @@
+#include "prefs/reader_preferences.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <map>
+#include <sstream>
+
+#include "prefs/settings_get_set.h"
+#include "support/logging.h"
+#include "test_support.h"
+
+namespace vireo {
+namespace {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::IsSupersetOf;
+using ::testing::Not;
+
+std::string Twips(double value) { return std::to_string(static_cast<long long>(value)); }
+std::string OnOff(bool on) { return on ? "on" : "off"; }
+
+// Records every effect in order; the screen is 20000 x 15000 twips.
+class RecordingHost : public PreferencesHost {
+ public:
+  void ApplyFontName(const std::string& name) override { calls.push_back("font name " + name); }
+  void ApplyFontSize(int points) override { calls.push_back("font size " + Twips(points)); }
+  void SetJustify(bool on) override { calls.push_back("justify " + OnOff(on)); }
+  void SetIndent(bool on) override { calls.push_back("indent " + OnOff(on)); }
+  void TickUnderscores(bool on) override { calls.push_back("underscores " + OnOff(on)); }
+  void TickExtraParagraphLine(bool on) override { calls.push_back("extra line " + OnOff(on)); }
+  bool UnderscoresTicked() const override { return underscores_ticked; }
+  bool ExtraParagraphLineTicked() const override { return extra_line_ticked; }
+  void SetPageColours() override { calls.push_back("page colours"); }
+  WindowSize ScreenSize() const override { return {20000, 15000}; }
+  WindowSize CurrentWindowSize() const override { return window; }
+  void MaximiseWindow() override { calls.push_back("maximise"); }
+  void SetResizing(bool on) override { calls.push_back("resizing " + OnOff(on)); }
+  void SetWindowHeight(double twips) override { calls.push_back("height " + Twips(twips)); }
+  void SetWindowWidth(double twips) override { calls.push_back("width " + Twips(twips)); }
+  void StoreBookmark() override { calls.push_back("store bookmark"); }
+  void SaveBookmarks() override { calls.push_back("save bookmarks"); }
+
+  std::vector<std::string> calls;
+  WindowSize window{9500, 6570};
+  bool underscores_ticked = false;
+  bool extra_line_ticked = false;
+};
+
+class ReaderPreferencesTest : public ::testing::Test {
+ protected:
+  ReaderPreferencesTest() {
+    ResetGlobalSettings();
+    ClearActions();
+  }
+  ~ReaderPreferencesTest() override { ResetGlobalSettings(); }
+
+  void Read() { ReadSettings(prefs, host, system); }
+
+  // The settings file as key -> value.
+  static std::map<std::string, std::string> FileEntries(const std::string& path) {
+    std::map<std::string, std::string> entries;
+    std::istringstream lines(test::ReadFile(path));
+    for (std::string line; std::getline(lines, line);) {
+      if (!line.empty() && line.back() == '\r') line.pop_back();
+      const size_t comma = line.find(',');
+      if (comma != std::string::npos) entries[line.substr(0, comma)] = line.substr(comma + 1);
+    }
+    return entries;
+  }
+
+  ReaderPreferences prefs;
+  RecordingHost host;
+  SystemColours system{0xABCDEF, 0x123456};
+  test::TempFolder folder;
+};
+
+TEST_F(ReaderPreferencesTest, FirstRunAppliesTheDefaultsInOrder) {
+  LoadSettings(folder.File("Vireo.ini"));  // no file yet
+  Read();
+  EXPECT_THAT(host.calls,
+              ElementsAre("font name Times New Roman", "font size 10", "justify on", "indent on",
+                          "underscores off", "extra line off", "page colours", "resizing on",
+                          "height 6570", "resizing off", "width 9500"));
+  EXPECT_EQ(prefs.font_name, "Times New Roman");
+  EXPECT_EQ(prefs.font_size, 10);
+  EXPECT_FALSE(prefs.single_page_mode);
+  EXPECT_FALSE(prefs.bar_hidden);
+  EXPECT_EQ(prefs.paper_colour, 0xABCDEFu);
+  EXPECT_EQ(prefs.ink_colour, 0x123456u);
+  EXPECT_EQ(prefs.highlight_colour, 45056u);
+  EXPECT_EQ(prefs.page_number_colour, 0x808080u);
+  EXPECT_EQ(prefs.page_sweep_width, 2100);
+  EXPECT_FALSE(prefs.instant_page_turn);
+  EXPECT_EQ(prefs.texture_num, 1);
+}
+
+TEST_F(ReaderPreferencesTest, DefaultWidthFollowsTheBarWhileTheKeyFollowsThePageMode) {
+  sset("BarHidden", true);
+  Read();
+  EXPECT_THAT(host.calls, Contains("width 3500"));
+
+  // In single-page mode a stored two-page width is not the one read.
+  host.calls.clear();
+  sset("SinglePageMode", true);
+  sset("WinWidth", 8000);
+  sset("WinHeight", 7000);
+  sset("SingleWinHeight", 6800);
+  Read();
+  EXPECT_THAT(host.calls, IsSupersetOf({"height 6800", "width 3500"}));
+}
+
+TEST_F(ReaderPreferencesTest, AWindowNearlyAsLargeAsTheScreenOpensMaximised) {
+  sset("WinWidth", 19000);  // 0.95 of 20000
+  Read();
+  EXPECT_THAT(host.calls, Contains("maximise"));
+  EXPECT_THAT(host.calls, Not(Contains("width 19000")));
+
+  host.calls.clear();
+  sset("WinWidth", 18999);
+  sset("WinHeight", 14250);  // 0.95 of 15000
+  Read();
+  EXPECT_THAT(host.calls, Contains("maximise"));
+
+  host.calls.clear();
+  sset("WinHeight", 14249);
+  Read();
+  EXPECT_THAT(host.calls, Not(Contains("maximise")));
+  EXPECT_THAT(host.calls, IsSupersetOf({"height 14249", "width 18999"}));
+}
+
+TEST_F(ReaderPreferencesTest, AWrongTypedValueIsLoggedAndTheRestAreRead) {
+  prefs.font_size = 14;
+  sset("FontSize", "big");
+  sset("Justify", false);
+  sset("InkColour", "dark");
+  sset("TextureNum", 3);
+  Read();
+  EXPECT_EQ(prefs.font_size, 14);
+  EXPECT_THAT(host.calls, Not(Contains(::testing::StartsWith("font size"))));
+  EXPECT_THAT(host.calls, Contains("justify off"));
+  EXPECT_EQ(prefs.ink_colour, 0u);  // the built-in value stays
+  EXPECT_THAT(host.calls, Contains("page colours"));
+  EXPECT_EQ(prefs.texture_num, 3);
+  int mismatches = 0;
+  for (const auto& entry : Actions().text) {
+    if (entry == "Type mismatch in sub readsettings(13) of module frmMain") ++mismatches;
+  }
+  EXPECT_EQ(mismatches, 2);
+}
+
+TEST_F(ReaderPreferencesTest, QuittingInSinglePageModeStoresTheSingleSizeOnly) {
+  const std::string path = folder.File("Vireo.ini");
+  test::WriteFile(path, "WINHEIGHT,6000\r\nWINWIDTH,9000\r\n");
+  LoadSettings(path);
+  prefs.single_page_mode = true;
+  prefs.paper_colour = 0xEEEEEE;
+  host.window = {5000, 7000};
+  host.underscores_ticked = true;
+  StoreSettings(prefs, host, path);
+
+  EXPECT_EQ(host.calls.front(), "store bookmark");
+  EXPECT_EQ(host.calls.back(), "save bookmarks");
+  const auto entries = FileEntries(path);
+  EXPECT_EQ(entries.at("SINGLEWINWIDTH"), "5000");
+  EXPECT_EQ(entries.at("SINGLEWINHEIGHT"), "7000");
+  EXPECT_EQ(entries.at("WINWIDTH"), "9000");
+  EXPECT_EQ(entries.at("WINHEIGHT"), "6000");
+  EXPECT_EQ(entries.at("SINGLEPAGEMODE"), "True");
+  EXPECT_EQ(entries.at("PAPERCOLOUR"), "15658734");
+  EXPECT_EQ(entries.at("UNDERSCORES"), "True");
+  EXPECT_EQ(entries.at("EXTRAPARAGRAPHLINE"), "False");
+  // The dialog's keys are not written at shutdown.
+  for (const char* key : {"PAGESWEEPWIDTH", "INSTANTPAGETURN", "TEXTURENUM", "LEFTBORDER",
+                          "RIGHTBORDER", "TOPBORDER", "BOTTOMBORDER"}) {
+    EXPECT_FALSE(entries.contains(key)) << key;
+  }
+}
+
+TEST_F(ReaderPreferencesTest, StoredPreferencesAreReadBackAtTheNextStart) {
+  const std::string path = folder.File("Vireo.ini");
+  prefs.font_name = "Arial";
+  prefs.font_size = 13;
+  prefs.justify = false;
+  prefs.indented = false;
+  prefs.bar_hidden = true;
+  prefs.path = folder.str();
+  prefs.ink_colour = 0x0000FF;
+  prefs.highlight_colour = 0x00FFFF;
+  host.window = {7000, 6600};
+  host.extra_line_ticked = true;
+  StoreSettings(prefs, host, path);
+
+  ResetGlobalSettings();
+  LoadSettings(path);
+  ReaderPreferences read;
+  RecordingHost fresh;
+  ReadSettings(read, fresh, system);
+  ReadDefaultPath(read, "/nowhere");
+  EXPECT_THAT(fresh.calls,
+              ElementsAre("font name Arial", "font size 13", "justify off", "indent off",
+                          "underscores off", "extra line on", "page colours", "resizing on",
+                          "height 6600", "resizing off", "width 7000"));
+  EXPECT_TRUE(read.bar_hidden);
+  EXPECT_EQ(read.ink_colour, 0x0000FFu);
+  EXPECT_EQ(read.highlight_colour, 0x00FFFFu);
+  EXPECT_EQ(read.paper_colour, prefs.paper_colour);
+  EXPECT_EQ(read.path, folder.str());
+}
+
+TEST_F(ReaderPreferencesTest, APathThatNoLongerExistsFallsBackToTheProgramFolder) {
+  ReadDefaultPath(prefs, "/program");
+  EXPECT_EQ(prefs.path, "/program");
+
+  const std::string books = folder.File("books");
+  std::filesystem::create_directory(books);
+  sset("Path", books);
+  ReadDefaultPath(prefs, "/program");
+  EXPECT_EQ(prefs.path, books);
+
+  std::filesystem::remove(books);
+  ReadDefaultPath(prefs, "/program");
+  EXPECT_EQ(prefs.path, "/program");
+}
+
+}  // namespace
+}  // namespace vireo

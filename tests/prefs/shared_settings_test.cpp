@@ -1,0 +1,183 @@
+#include "prefs/shared_settings.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+#include "prefs/settings_get_set.h"
+#include "support/file_io.h"
+#include "support/logging.h"
+#include "support/runtime_error.h"
+#include "test_support.h"
+
+namespace vireo {
+namespace {
+
+class SettingsFileTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    SetLogFolder(folder_.str());
+    ClearActions();
+  }
+  void TearDown() override {
+    SetBeforeRenameHook(nullptr);
+    SetReadOnlyClearer(nullptr);
+    SetLogFolder("");
+  }
+  std::string Path() const { return folder_.File("Vireo.ini"); }
+  std::string Log() const { return test::ReadFile(folder_.File("log.txt")); }
+
+  test::TempFolder folder_;
+  cSHAREDSettings store_;
+};
+
+TEST_F(SettingsFileTest, SavesSortedUpperCaseKeysWithoutCommasAndLoadsThemBack) {
+  store_.StoreSetting("FontName", "Times New Roman");
+  store_.StoreSetting("Key,With,Commas", "1,2,3");
+  store_.StoreSetting("Justify", true);
+  store_.StoreSetting("WinWidth", 9500.0);
+  store_.StoreSetting("Zoom", 0.5);
+  store_.StoreSetting("barhidden", false);
+  store_.SaveSettings(Path());
+  const std::string expected =
+      "BARHIDDEN,False\r\n"
+      "FONTNAME,Times New Roman\r\n"
+      "JUSTIFY,True\r\n"
+      "KEYWITHCOMMAS,1,2,3\r\n"
+      "WINWIDTH,9500\r\n"
+      "ZOOM,0.5\r\n";
+  EXPECT_EQ(test::ReadFile(Path()), expected);
+
+  cSHAREDSettings loaded;
+  loaded.LoadSettings(Path());
+  EXPECT_EQ(loaded.RetrieveSetting("fontname").ToText(), "Times New Roman");
+  EXPECT_EQ(loaded.RetrieveSetting("Key,With,Commas").ToText(), "1,2,3");
+  EXPECT_EQ(loaded.RetrieveSetting("JUSTIFY"), SettingValue(true));
+  EXPECT_EQ(loaded.RetrieveSetting("WinWidth").ToNumber(), 9500);
+  loaded.SaveSettings(Path());
+  EXPECT_EQ(test::ReadFile(Path()), expected) << "a load and save changes no byte";
+}
+
+TEST_F(SettingsFileTest, LoadSkipsAdjacentDuplicatesAndBlankKeysButLaterLinesWin) {
+  test::WriteFile(Path(),
+                  "A,first\r\nA,adjacent\r\nB,one\r\n\r\n,no key\r\n   ,blank key\r\n"
+                  "C, true \r\nD,yes\r\nE,FALSE\r\nB,later\r\n\"Q\",quoted\r\n");
+  store_.LoadSettings(Path());
+  EXPECT_EQ(store_.RetrieveSetting("A").ToText(), "first");
+  EXPECT_EQ(store_.RetrieveSetting("B").ToText(), "later");
+  EXPECT_EQ(store_.RetrieveSetting("C"), SettingValue(true));
+  EXPECT_EQ(store_.RetrieveSetting("D"), SettingValue("yes"));
+  EXPECT_EQ(store_.RetrieveSetting("E"), SettingValue(false));
+  EXPECT_EQ(store_.RetrieveSetting("Q").ToText(), "quoted");
+  EXPECT_EQ(store_.SettingsCount(), 6);
+}
+
+TEST_F(SettingsFileTest, LoadingAMissingFileKeepsTheStore) {
+  store_.StoreSetting("Kept", 1);
+  store_.LoadSettings(folder_.File("absent.ini"));
+  EXPECT_EQ(store_.RetrieveSetting("Kept").ToNumber(), 1);
+}
+
+TEST_F(SettingsFileTest, RetrieveWithDefaultTreatsZeroAsAbsent) {
+  store_.StoreSetting("Count", "0");
+  store_.StoreSetting("Off", false);
+  EXPECT_EQ(store_.RetrieveWithDefault("Count", 7).ToNumber(), 7);
+  EXPECT_EQ(store_.RetrieveWithDefault("Off", 7).ToNumber(), 7);
+  EXPECT_EQ(store_.RetrieveWithDefault("Absent", 7).ToNumber(), 7);
+  EXPECT_EQ(store_.RetrieveSetting("Count", 7).ToText(), "0");
+  EXPECT_TRUE(store_.RetrieveSetting("Absent").IsEmpty());
+}
+
+TEST_F(SettingsFileTest, AReadOnlyFileIsMadeWritableThenSaved) {
+  test::WriteFile(Path(), "OLD,1\r\n");
+  std::filesystem::permissions(Path(), std::filesystem::perms::owner_read);
+  store_.StoreSetting("New", 2);
+  store_.SaveSettings(Path());
+  EXPECT_EQ(test::ReadFile(Path()), "NEW,2\r\n");
+}
+
+TEST_F(SettingsFileTest, AReadOnlyFileThatStaysReadOnlyIsReportedAndKept) {
+  test::WriteFile(Path(), "OLD,1\r\n");
+  std::filesystem::permissions(Path(), std::filesystem::perms::owner_read);
+  SetReadOnlyClearer([](const std::string&) { return false; });
+  store_.StoreSetting("New", 2);
+  store_.SaveSettings(Path());
+  std::filesystem::permissions(Path(), std::filesystem::perms::owner_all);
+  EXPECT_EQ(test::ReadFile(Path()), "OLD,1\r\n");
+  EXPECT_NE(Log().find(Path() + " is read only, can't change it to read write, can't update it"),
+            std::string::npos);
+}
+
+TEST_F(SettingsFileTest, ASaveInterruptedBeforeItsRenameLeavesTheOldFile) {
+  test::WriteFile(Path(), "OLD,1\r\n");
+  SetBeforeRenameHook([] { throw RuntimeError(ErrorNumber::kDiskFull); });
+  store_.StoreSetting("New", 2);
+  store_.SaveSettings(Path());
+  EXPECT_EQ(test::ReadFile(Path()), "OLD,1\r\n");
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_.path()), {}), 2)
+      << "only the settings file and the log: no temporary left behind";
+  EXPECT_NE(Log().find("Unable to write to settings file - possibly read-only? - Disk full in "
+                       "SaveSettings"),
+            std::string::npos);
+}
+
+TEST_F(SettingsFileTest, ASaveIntoAMissingFolderFailsCleanly) {
+  store_.StoreSetting("New", 2);
+  store_.SaveSettings(folder_.File("missing/Vireo.ini"));
+  EXPECT_NE(Log().find("Unable to write to settings file - possibly read-only? - Path/File "
+                       "access error in SaveSettings"),
+            std::string::npos);
+}
+
+TEST(SettingsStore, KeysStaySortedAndUniqueWhateverTheInsertionOrder) {
+  std::mt19937 random(7);
+  for (int round = 0; round < 50; ++round) {
+    cSHAREDSettings store;
+    std::vector<std::string> keys;
+    for (int i = 0; i < 30; ++i) {
+      std::string key(1 + random() % 3, 'A');
+      for (char& c : key) c = static_cast<char>('A' + random() % 4);
+      keys.push_back(key);
+      store.StoreSetting(key, i);
+    }
+    std::sort(keys.begin(), keys.end());
+    keys.erase(std::unique(keys.begin(), keys.end()), keys.end());
+    ASSERT_EQ(store.SettingsCount(), static_cast<int>(keys.size()));
+    for (int i = 1; i <= store.SettingsCount(); ++i) {
+      EXPECT_EQ(store.SettingNameByIndex(i), keys[i - 1]);
+    }
+  }
+}
+
+TEST(SettingsStore, DeletesByIndexAndName) {
+  cSHAREDSettings store;
+  for (const char* key : {"C", "A", "B"}) store.StoreSetting(key, 1);
+  store.DeleteSettingByName("B");
+  store.DeleteSetting(1);
+  EXPECT_EQ(store.SettingsCount(), 1);
+  EXPECT_EQ(store.SettingNameByIndex(1), "C");
+  EXPECT_FALSE(store.SettingPresent("a"));
+  EXPECT_TRUE(store.SettingPresent("c"));
+}
+
+TEST(GlobalSettings, GetAndSetIgnoreTheCaseOfKeys) {
+  ResetGlobalSettings();
+  EXPECT_EQ(sget("FontName", "Times New Roman").ToText(), "Times New Roman");
+  sset("FontName", "Arial");
+  EXPECT_EQ(sget("fontname", "x").ToText(), "Arial");
+  ResetGlobalSettings();
+}
+
+TEST(SettingValue, ConvertsLikeThePreferenceReadersExpect) {
+  EXPECT_EQ(SettingValue("10").ToLong(), 10);
+  EXPECT_EQ(SettingValue(" 2.5 ").ToNumber(), 2.5);
+  EXPECT_THROW(SettingValue("ten").ToNumber(), RuntimeError);
+  EXPECT_THROW(SettingValue("maybe").ToBoolean(), RuntimeError);
+  EXPECT_TRUE(SettingValue("True").ToBoolean());
+  EXPECT_EQ(SettingValue(true).ToNumber(), -1);
+  EXPECT_EQ(SettingValue(45056).ToText(), "45056");
+}
+
+}  // namespace
+}  // namespace vireo

@@ -1,0 +1,168 @@
+#include "render/book_view.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "fake_surface.h"
+#include "prefs/settings_get_set.h"
+#include "render/render_test_support.h"
+#include "support/runtime_error.h"
+#include "test_support.h"
+
+namespace vireo {
+namespace {
+
+using ::testing::ElementsAre;
+
+TEST(BookViewLayout, SinglePageWithTheBarShown) {
+  BookViewLayout layout;
+  DrawSinglePageBook({9500, 6000, ControlBar::kShown, 9000, 5400}, layout);
+  EXPECT_EQ(layout.bottom_reserve, 800);
+  EXPECT_EQ(layout.page_frames[0], (TwipsRect{155, kPageFrameTop, 9115, 5200}));
+  EXPECT_FALSE(layout.right_frame_visible);
+  EXPECT_EQ(layout.page_width, 9115);
+  EXPECT_EQ(layout.page_height, 5200);
+  EXPECT_THAT(layout.page_visible,
+              ElementsAre(true, false, false, false, false, false, false, false));
+  EXPECT_FALSE(layout.frame1.has_value());  // the bar stays where it is
+
+  // The bottom line runs 15 twips above the bar.
+  const EdgeLines& lines = layout.lines;
+  EXPECT_EQ(lines.top, (TwipsLine{25, kLineTopY, 9355, kLineTopY}));
+  EXPECT_EQ(lines.bottom, (TwipsLine{75, 5385, 9315, 5385}));
+  EXPECT_EQ(lines.hard_left, (TwipsLine{25, kEdgeLinesTopY, 25, 5310}));
+  EXPECT_EQ(lines.left, (TwipsLine{75, kEdgeLinesTopY, 75, 5385}));
+  EXPECT_EQ(lines.hard_right, (TwipsLine{9355, kEdgeLinesTopY, 9355, 5310}));
+  EXPECT_EQ(lines.right, (TwipsLine{9300, kEdgeLinesTopY, 9300, 5385}));
+  EXPECT_EQ(lines.centre, (TwipsLine{4680, kEdgeLinesTopY, 4680, 5385}));
+}
+
+TEST(BookViewLayout, DoublePageWithTheBarHidden) {
+  BookViewLayout layout;
+  DrawDoublePageBook({12000, 8000, ControlBar::kHidden, 2000, 0}, layout);
+  EXPECT_EQ(layout.bottom_reserve, 225);
+  // The left page ends at W / 2 - 90, the right one starts 45 twips later.
+  EXPECT_EQ(layout.page_frames[0], (TwipsRect{185, kPageFrameTop, 5725, 7775}));
+  EXPECT_EQ(layout.page_frames[1], (TwipsRect{5955, kPageFrameTop, 5725, 7775}));
+  EXPECT_TRUE(layout.right_frame_visible);
+  EXPECT_THAT(layout.page_visible,
+              ElementsAre(true, true, false, false, false, false, false, false));
+  // Frame1 centred 45 twips left of the middle, 50 below the pages.
+  ASSERT_TRUE(layout.frame1.has_value());
+  EXPECT_EQ(*layout.frame1, (TwipsPoint{4955, kPageFrameTop + 7775 + 50}));
+
+  const EdgeLines& lines = layout.lines;
+  EXPECT_EQ(lines.top, (TwipsLine{25, kLineTopY, 11855, kLineTopY}));
+  EXPECT_EQ(lines.bottom, (TwipsLine{75, 7950, 11815, 7950}));
+  EXPECT_EQ(lines.hard_left.y2, 7875);
+  EXPECT_EQ(lines.hard_right, (TwipsLine{11855, kEdgeLinesTopY, 11855, 7875}));
+  EXPECT_EQ(lines.right, (TwipsLine{11800, kEdgeLinesTopY, 11800, 7950}));
+  // The centre line stands in the middle of the gap between the pages.
+  EXPECT_EQ(lines.centre, (TwipsLine{5930, kEdgeLinesTopY, 5930, 7950}));
+}
+
+TEST(BookViewLayout, SinglePageWithTheBarHiddenPlacesFrame1UnderThePage) {
+  BookViewLayout layout;
+  DrawSinglePageBook({3500, 6570, ControlBar::kHidden, 1500, 0}, layout);
+  EXPECT_EQ(layout.page_frames[0], (TwipsRect{155, kPageFrameTop, 3115, 6345}));
+  ASSERT_TRUE(layout.frame1.has_value());
+  EXPECT_EQ(*layout.frame1, (TwipsPoint{955, kPageFrameTop + 6345 + 50}));
+  EXPECT_EQ(layout.lines.bottom.y1, 6520);
+}
+
+TEST(BookViewLayout, DoublePageWithTheBarShownUsesTheBarForTheBottomLine) {
+  BookViewLayout layout;
+  DrawDoublePageBook({9500, 6570, ControlBar::kShown, 9000, 5900}, layout);
+  EXPECT_EQ(layout.page_frames[0].height, 5770);
+  EXPECT_EQ(layout.page_frames[1].left, 4705);
+  EXPECT_FALSE(layout.frame1.has_value());
+  EXPECT_EQ(layout.lines.bottom.y2, 5885);
+  EXPECT_EQ(layout.lines.left.y2, 5885);
+  EXPECT_EQ(layout.lines.hard_left.y2, 5810);
+}
+
+TEST(BookViewLayout, AWindowTooSmallLogsAndKeepsTheLayoutSoFar) {
+  ClearActions();
+  BookViewLayout layout;
+  DrawSinglePageBook({9500, 6000, ControlBar::kShown, 9000, 5400}, layout);
+  DrawSinglePageBook({300, 4000, ControlBar::kShown, 9000, 5400}, layout);
+  EXPECT_TRUE(test::ActionLogged(
+      "Invalid procedure call or argument in DrawSinglePageBook(5) of module frmMain"));
+  EXPECT_EQ(layout.page_frames[0].height, 3200);  // set before the width failed
+  EXPECT_EQ(layout.page_frames[0].width, 9115);
+  EXPECT_EQ(layout.lines.top.x2, 9355);  // the lines were not laid out again
+}
+
+class PageBordersTest : public ::testing::Test {
+ protected:
+  PageBordersTest() {
+    ResetGlobalSettings();
+    ClearActions();
+  }
+  ~PageBordersTest() override { ResetGlobalSettings(); }
+  test::FakeSurface page;
+  PageTextArea area;
+};
+
+TEST_F(PageBordersTest, DefaultBordersAndTheLinesOfAPage) {
+  page.width = 6000;
+  page.line_height = 240;          // line gap 16, pitch 256
+  page.height = 850 + 10.6 * 256;  // 10.6 pitches of text
+  SetPageBorders(page, 12, area);
+  EXPECT_EQ(page.font_size, 12);
+  EXPECT_EQ(area.left_border, 400);
+  EXPECT_EQ(area.right_border, 400);
+  EXPECT_EQ(area.top_border, 300);
+  EXPECT_EQ(area.bottom_border, 550);
+  EXPECT_EQ(area.text_width, 5200);
+  EXPECT_DOUBLE_EQ(area.text_height, 10.6 * 256);
+  EXPECT_EQ(area.line_height, 240);
+  EXPECT_EQ(area.line_gap, 16);
+  EXPECT_EQ(area.line_pitch, 256);
+  EXPECT_EQ(area.lines_per_page, 11);  // rounded, not truncated
+
+  page.height = 850 + 10.4 * 256;
+  SetPageBorders(page, 12, area);
+  EXPECT_EQ(area.lines_per_page, 10);
+}
+
+TEST_F(PageBordersTest, BordersComeFromTheSettings) {
+  sset("LeftBorder", 1000);
+  sset("RightBorder", 500);
+  sset("TopBorder", 200);
+  sset("BottomBorder", 800);
+  page.width = 6000;
+  page.height = 9000;
+  SetPageBorders(page, 10, area);
+  EXPECT_EQ(area.text_width, 4500);
+  EXPECT_EQ(area.text_height, 8000);
+}
+
+TEST_F(PageBordersTest, AWrongTypedBorderIsLoggedAndLaterValuesKeepTheirOldOnes) {
+  area.text_width = 123;
+  sset("RightBorder", "wide");
+  SetPageBorders(page, 10, area);
+  EXPECT_TRUE(test::ActionLogged("Type mismatch in sub setpageborders(13) of module frmMain"));
+  EXPECT_EQ(area.left_border, 400);
+  EXPECT_EQ(area.text_width, 123);
+}
+
+TEST(Textures, TextureNumberChoosesASlotOrNone) {
+  EXPECT_EQ(TextureSlot(-1), std::nullopt);
+  EXPECT_EQ(TextureSlot(0), 0);
+  EXPECT_EQ(TextureSlot(3), 3);
+  EXPECT_THROW(TextureSlot(4), RuntimeError);
+  EXPECT_THROW(TextureSlot(-2), RuntimeError);
+}
+
+TEST(Textures, OnlyThePaperFilesPresentFillTheirSlots) {
+  test::TempFolder folder;
+  test::WriteFile(folder.File("paper1.jpg"), "jpeg");
+  test::WriteFile(folder.File("paper3.jpg"), "jpeg");
+  test::WriteFile(folder.File("paper5.jpg"), "jpeg");
+  EXPECT_THAT(LoadTextures(folder.str()), ElementsAre(TextureFile{0, folder.File("paper1.jpg")},
+                                                      TextureFile{2, folder.File("paper3.jpg")}));
+}
+
+}  // namespace
+}  // namespace vireo

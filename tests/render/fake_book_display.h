@@ -1,0 +1,191 @@
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "render/book_display.h"
+#include "support/runtime_error.h"
+#include "support/user_interaction.h"
+
+namespace vireo::test {
+
+// A book display without a screen. Each box's buffer holds the number of the
+// page drawn into it (kBlank for plain paper, kTitlePage for the welcome
+// page); boxes keep a width, a left edge, a visibility and a place in their
+// frame's stack, so tests can ask what the reader sees at a point of a frame.
+class FakeBookDisplay : public BookDisplay {
+ public:
+  static constexpr int kBlank = 0;
+  static constexpr int kTitlePage = -100;
+  static constexpr int kNothing = -200;  // no visible box at that point
+
+  // What one frame showed near its spine and near its outer edge at the
+  // moment a squeezed strip or a copy was drawn into a visible box.
+  struct FrameView {
+    int box = 0;
+    bool squeezed = false;  // drawn by StretchPage, else by CopyPage
+    int at_spine = kNothing;
+    int at_outer_edge = kNothing;
+  };
+
+  explicit FakeBookDisplay(int pages = 10, double frame_width = 4500) : page_count(pages) {
+    frame_widths = {frame_width, frame_width};
+    widths.fill(frame_width);
+    visible = {true, true, false, false, false, false, false, false};
+  }
+
+  void PlotOnPage(PageSide side, int box, int page) override {
+    events.push_back("plot " + std::to_string(static_cast<int>(side)) + " " + std::to_string(box) +
+                     " " + std::to_string(page));
+    ++plots;
+    if (!book_loaded) {
+      content[box] = kTitlePage;
+    } else if (page >= 1 && page <= page_count) {
+      content[box] = page;
+    }
+  }
+  void ClearPage(int box) override {
+    events.push_back("clear " + std::to_string(box));
+    ++clears;
+    content[box] = kBlank;
+  }
+  void CopyPage(int source_box, int destination_box) override {
+    if (destination_box == fail_copies_to) throw RuntimeError(ErrorNumber::kInvalidProcedureCall);
+    events.push_back("copy " + std::to_string(source_box) + " " + std::to_string(destination_box));
+    ++copies;
+    content[destination_box] = content[source_box];
+    if (visible[destination_box] && destination_box < 2) {
+      views.push_back(View(destination_box, false));
+    }
+  }
+  void StretchPage(int source_box, int destination_box, double width) override {
+    events.push_back("stretch " + std::to_string(source_box) + " " +
+                     std::to_string(destination_box) + " " + std::to_string(int(width)));
+    ++stretches;
+    stretch_widths.push_back(width);
+    if (width != widths[destination_box]) mismatched_stretches++;
+    content[destination_box] = content[source_box];
+    views.push_back(View(destination_box, true));
+  }
+  void DrawTitlePage() override {
+    events.push_back("title page");
+    ++title_pages;
+    content[kRightPageBox] = kTitlePage;
+  }
+
+  double FrameWidth(int frame) const override { return frame_widths[frame]; }
+  void SetBoxWidth(int box, double twips) override {
+    if (twips < 0) ++negative_widths;
+    widths[box] = twips;
+  }
+  void SetBoxLeft(int box, double twips) override { lefts[box] = twips; }
+  void SetBoxVisible(int box, Visibility visibility) override {
+    visible[box] = visibility == Visibility::kShown;
+  }
+  void RaiseBox(int box) override {
+    auto& stack = stacks[box % 2];
+    stack.erase(std::remove(stack.begin(), stack.end(), box), stack.end());
+    stack.push_back(box);
+  }
+
+  void SetLamp(Lamp lamp) override { lamps.push_back(lamp); }
+  void ShowCover() override {
+    cover_shown = true;
+    events.push_back("show cover");
+  }
+  void HideCover() override {
+    cover_shown = false;
+    events.push_back("hide cover");
+  }
+  bool BookLoaded() const override { return book_loaded; }
+
+  // The page the reader sees at x twips from the left of a frame: the
+  // topmost visible box of the frame that covers x.
+  int ShownAt(int frame, double x) const {
+    const auto& stack = stacks[frame];
+    for (auto it = stack.rbegin(); it != stack.rend(); ++it) {
+      const int box = *it;
+      if (visible[box] && x >= lefts[box] && x < lefts[box] + widths[box]) return content[box];
+    }
+    return kNothing;
+  }
+
+  // True when every on-show and work box has its frame's full width at left
+  // 0 and the work boxes are hidden: the state between turns.
+  bool AtRest() const {
+    for (int box = 0; box < 4; ++box) {
+      if (widths[box] != frame_widths[box % 2] || lefts[box] != 0) return false;
+    }
+    return !visible[kLeftWorkBox] && !visible[kRightWorkBox];
+  }
+
+  // Fills the page count's boxes as if the spread (left, right) were shown.
+  void ShowSpread(int left, int right) {
+    content[kLeftPageBox] = left;
+    content[kRightPageBox] = right;
+  }
+
+  int CountEvents(const std::string& prefix) const {
+    return static_cast<int>(std::count_if(events.begin(), events.end(),
+                                          [&](const auto& e) { return e.rfind(prefix, 0) == 0; }));
+  }
+
+  int page_count;
+  bool book_loaded = true;
+  bool cover_shown = true;
+  int fail_copies_to = -1;  // CopyPage onto this box raises error 5
+
+  std::array<int, 8> content{};
+  std::array<double, 8> widths{};
+  std::array<double, 8> lefts{};
+  std::array<bool, 8> visible{};
+  std::array<double, 2> frame_widths{};
+  // Back to front; the work box starts on top so that the code must raise.
+  std::array<std::vector<int>, 2> stacks{{{0, 2}, {1, 3}}};
+
+  std::vector<std::string> events;
+  std::vector<Lamp> lamps;
+  std::vector<double> stretch_widths;
+  std::vector<FrameView> views;
+  int plots = 0;
+  int clears = 0;
+  int copies = 0;
+  int stretches = 0;
+  int title_pages = 0;
+  int negative_widths = 0;
+  int mismatched_stretches = 0;
+
+ private:
+  FrameView View(int box, bool squeezed) const {
+    const int frame = box % 2;
+    const double w = frame_widths[frame];
+    // The spine is the left frame's right edge and the right frame's left edge.
+    const double spine = frame == kLeftFrame ? w - 1 : 0;
+    const double outer = frame == kLeftFrame ? 0 : w - 1;
+    return {box, squeezed, ShownAt(frame, spine), ShownAt(frame, outer)};
+  }
+};
+
+// Counts yields and pauses; on_yield runs inside a yield (input arriving
+// while the program lets messages through).
+class RecordingPump : public MessagePump {
+ public:
+  void Yield() override {
+    ++yields;
+    if (on_yield) on_yield();
+  }
+  void SleepMilliseconds(int milliseconds) override {
+    ++pauses;
+    slept_ms += milliseconds;
+  }
+
+  std::function<void()> on_yield;
+  int yields = 0;
+  int pauses = 0;
+  int slept_ms = 0;
+};
+
+}  // namespace vireo::test

@@ -1,0 +1,161 @@
+#include "render/page_plotter.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+#include <map>
+
+#include "fake_surface.h"
+#include "layout/font_metrics.h"
+#include "prefs/reader_preferences.h"
+#include "prefs/settings_get_set.h"
+#include "render/page_boxes.h"
+#include "render/print_page.h"
+#include "render/render_test_support.h"
+
+namespace vireo {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+// Eight fixed-width page boxes of 6000 x 9000 twips and a book of 9 pages;
+// every call that matters is recorded in order.
+class FakePageBoxes : public PageBoxes {
+ public:
+  Surface& Box(int box) override { return boxes.at(static_cast<size_t>(box)); }
+  void SetBoxBackColour(int box, uint32_t bgr) override {
+    back_colours[box] = bgr;
+    calls.push_back("back " + std::to_string(box));
+  }
+  void SetBoxTexture(int box, std::optional<int> slot) override {
+    textures[box] = slot;
+    boxes.at(static_cast<size_t>(box)).Clear();
+    calls.push_back("texture " + std::to_string(box));
+  }
+  bool BookLoaded() const override { return book_loaded; }
+  int PageCount() const override { return 9; }
+  PageContent Page(int page) const override {
+    return {"Text of page " + std::to_string(page), page_bold, false, false};
+  }
+  std::string SearchTerm() const override { return search_term; }
+  void ShowCover(int box, int page) override {
+    calls.push_back("cover " + std::to_string(box) + " " + std::to_string(page));
+  }
+  void UpdateSearchLabel() override { calls.push_back("search label"); }
+  TwipsSize LanguageListSize() const override { return {1500, 1200}; }
+  void PlaceLanguageList(const LanguageListPlacement& where) override { placement = where; }
+
+  std::array<test::FakeSurface, kBoxCount> boxes;
+  std::map<int, uint32_t> back_colours;
+  std::map<int, std::optional<int>> textures;
+  std::vector<std::string> calls;
+  bool book_loaded = true;
+  bool page_bold = false;
+  std::string search_term;
+  std::optional<LanguageListPlacement> placement;
+};
+
+class PagePlotterTest : public ::testing::Test {
+ protected:
+  PagePlotterTest() {
+    ResetGlobalSettings();
+    prefs.ink_colour = 0x101010;
+    prefs.paper_colour = 0xEEEEEE;
+    prefs.texture_num = 2;
+    metrics.MakeArrays(boxes.boxes[0]);
+    for (auto& box : boxes.boxes) box.bold = box.italic = false;
+  }
+  ~PagePlotterTest() override { ResetGlobalSettings(); }
+
+  static std::vector<std::string> Texts(const test::FakeSurface& surface) {
+    std::vector<std::string> texts;
+    for (const auto& run : surface.runs) texts.push_back(run.text);
+    return texts;
+  }
+
+  FakePageBoxes boxes;
+  ReaderPreferences prefs;
+  test::CountingPump pump;
+  clsPrintPage composer{pump};
+  clsFontMetrics metrics;
+  PagePlotter plotter{boxes, prefs, composer, metrics};
+};
+
+TEST_F(PagePlotterTest, APageIsComposedOnItsPaperWithItsNumberCentredAtTheFoot) {
+  plotter.PlotOnPage(1, 5, 7);
+  EXPECT_THAT(boxes.calls, ElementsAre("texture 5", "cover 5 7", "search label"));
+  EXPECT_EQ(boxes.textures[5], 2);
+
+  const auto& box = boxes.boxes[5];
+  ASSERT_THAT(Texts(box), ElementsAre("Text of page 7", "7"));
+  // Text at the default borders: x = 400, first line at y = 300.
+  EXPECT_EQ(box.runs[0].x, 400);
+  EXPECT_EQ(box.runs[0].y, 300);
+  EXPECT_EQ(box.runs[0].font_size, 10);
+  // The number: 8 points, (6000 - 100) / 2 across, 9000 - (240 + 45) down.
+  const auto& number = box.runs[1];
+  EXPECT_EQ(number.font_size, 8);
+  EXPECT_EQ(number.x, 2950);
+  EXPECT_EQ(number.y, 8715);
+  EXPECT_EQ(number.colour, 0x101010u);
+  EXPECT_FALSE(number.bold);
+  // The text area came from Page(0) at the reader's font size.
+  EXPECT_EQ(plotter.text_area().text_width, 5200);
+  EXPECT_EQ(plotter.text_area().lines_per_page, 32);  // 8150 / 256 = 31.8
+}
+
+TEST_F(PagePlotterTest, PagesOutsideTheBookDrawNothingAndKeepTheBox) {
+  boxes.boxes[4].DrawText("old page");
+  plotter.PlotOnPage(0, 4, 0);
+  plotter.PlotOnPage(0, 4, 10);
+  plotter.PlotOnPage(0, 4, -2);
+  EXPECT_THAT(boxes.calls, IsEmpty());
+  EXPECT_THAT(Texts(boxes.boxes[4]), ElementsAre("old page"));
+  EXPECT_THAT(Texts(boxes.boxes[0]), IsEmpty());
+  EXPECT_FALSE(boxes.placement.has_value());
+}
+
+TEST_F(PagePlotterTest, WithoutABookTheTitlePageIsDrawnInstead) {
+  boxes.book_loaded = false;
+  plotter.PlotOnPage(1, 6, 3);
+  EXPECT_THAT(Texts(boxes.boxes[6]), IsEmpty());
+  ASSERT_FALSE(boxes.boxes[1].runs.empty());
+  EXPECT_EQ(boxes.boxes[1].runs[0].text, "Welcome to Vireo!");
+  ASSERT_FALSE(boxes.boxes[0].runs.empty());
+  EXPECT_EQ(boxes.boxes[0].runs[0].text, "Hints:");
+  EXPECT_TRUE(boxes.placement.has_value());
+}
+
+TEST_F(PagePlotterTest, TheSearchTermIsHighlightedInTheHighlightColour) {
+  boxes.search_term = "PAGE";
+  prefs.highlight_colour = 0x00FF00;
+  plotter.SetPageColours();  // the ink the composer returns to
+  plotter.PlotOnPage(0, 0, 3);
+  ASSERT_THAT(Texts(boxes.boxes[0]), ElementsAre("Text of ", "page", " 3", "3"));
+  EXPECT_EQ(boxes.boxes[0].runs[1].colour, 0x00FF00u);
+  EXPECT_EQ(boxes.boxes[0].runs[2].colour, 0x101010u);
+}
+
+TEST_F(PagePlotterTest, PageColoursGiveEveryBoxPaperInkAndTexture) {
+  prefs.texture_num = -1;
+  plotter.SetPageColours();
+  for (int box = 0; box < PageBoxes::kBoxCount; ++box) {
+    EXPECT_EQ(boxes.back_colours[box], 0xEEEEEEu) << box;
+    EXPECT_EQ(boxes.boxes[static_cast<size_t>(box)].ForeColor(), 0x101010u) << box;
+    ASSERT_TRUE(boxes.textures.contains(box));
+    EXPECT_EQ(boxes.textures[box], std::nullopt) << box;
+  }
+}
+
+TEST_F(PagePlotterTest, AnUnknownTextureNumberIsLoggedAndThePageStillDrawn) {
+  ClearActions();
+  prefs.texture_num = 7;
+  plotter.PlotOnPage(0, 0, 2);
+  EXPECT_TRUE(test::ActionLogged("Subscript out of range in sub settexture(9) of module frmMain"));
+  EXPECT_THAT(Texts(boxes.boxes[0]), ElementsAre("Text of page 2", "2"));
+}
+
+}  // namespace
+}  // namespace vireo

@@ -1,0 +1,58 @@
+// vireo-tool make: packs a text into a self-contained ebook.
+
+#include <cstdio>
+#include <filesystem>
+
+#include "book/book_maker.h"
+#include "book_commands.h"
+#include "support/platform.h"
+
+namespace vireo::tool {
+namespace {
+
+// The title when none is given: the text file's name without its extension.
+std::string DefaultTitle(const std::string& text_path) {
+  return std::filesystem::path(text_path).stem().string();
+}
+
+}  // namespace
+
+int RunMake(const Arguments& arguments) {
+  MakeRequest request;
+  request.stub_path =
+      JoinPath(ProgramFolder(), std::string("Vireo") + std::string(kExecutableSuffix));
+  bool has_title = false;
+  for (size_t i = 0; i < arguments.size(); ++i) {
+    const std::string& argument = arguments[i];
+    const bool has_value = i + 1 < arguments.size();
+    if ((argument == "-o" || argument == "--stub" || argument == "--author" ||
+         argument == "--title") &&
+        !has_value) {
+      return Fail(argument + " needs a value");
+    }
+    if (argument == "-o") {
+      request.out_path = arguments[++i];
+    } else if (argument == "--stub") {
+      request.stub_path = arguments[++i];
+    } else if (argument == "--author") {
+      request.author = arguments[++i];
+    } else if (argument == "--title") {
+      request.title = arguments[++i];
+      has_title = true;
+    } else if (argument.starts_with("-") || !request.text_path.empty()) {
+      return Fail("make: unexpected argument " + argument);
+    } else {
+      request.text_path = argument;
+    }
+  }
+  if (request.text_path.empty() || request.out_path.empty()) {
+    return Fail("usage: vireo-tool make TEXT -o OUT [--stub PATH] [--author A] [--title T]");
+  }
+  if (!has_title) request.title = DefaultTitle(request.text_path);
+  const MakeResult result = MakeEbook(request);
+  if (!result.ok) return Fail(result.message);
+  std::printf("%s\n", result.message.c_str());
+  return 0;
+}
+
+}  // namespace vireo::tool

@@ -1,0 +1,54 @@
+// vireo-tool text: the book text exactly as the reader holds it.
+
+#include <cstdio>
+
+#include "book/book_reader.h"
+#include "book_commands.h"
+
+namespace vireo::tool {
+namespace {
+
+int Print(const BookReadResult& book) {
+  if (!book.has_book) return Fail(book.message);
+  std::fwrite(book.text.data(), 1, book.text.size(), stdout);
+  return std::fflush(stdout) == 0 ? 0 : 1;
+}
+
+}  // namespace
+
+int RunText(const Arguments& arguments) {
+  std::string path;
+  FormattingOptions options;
+  enum class Kind { kEbook, kBrn, kBfl } kind = Kind::kEbook;
+  for (const std::string& argument : arguments) {
+    if (argument == "--no-reformat") {
+      options.reformat = false;
+    } else if (argument == "--underscores") {
+      options.underscores = true;
+    } else if (argument == "--extra-line") {
+      options.extra_line = true;
+    } else if (argument == "--brn") {
+      kind = Kind::kBrn;
+    } else if (argument == "--bfl") {
+      kind = Kind::kBfl;
+    } else if (argument.starts_with("-") || !path.empty()) {
+      return Fail("text: unexpected argument " + argument);
+    } else {
+      path = argument;
+    }
+  }
+  if (path.empty()) {
+    return Fail("usage: vireo-tool text FILE [--no-reformat] [--underscores] [--extra-line]");
+  }
+  switch (kind) {
+    case Kind::kBrn:
+      return Print(ReadPackedBookFile(path, PackedFileKind::kBrn, options));
+    case Kind::kBfl:
+      return Print(ReadPackedBookFile(path, PackedFileKind::kBfl, options));
+    case Kind::kEbook:
+      break;
+  }
+  return Print(ReadEmbeddedBook(path, options));
+}
+
+}  // namespace vireo::tool
