@@ -16,16 +16,12 @@
 #include <optional>
 #include <string>
 
+#include "book/book_reader.h"
 #include "layout/metrics_file.h"
 #include "layout/reindex.h"
 #include "support/file_io.h"
 #include "support/runtime_error.h"
 #include "tool_commands.h"
-
-#if __has_include("book/book_reader.h")
-#include "book/book_reader.h"
-#define VIREO_TOOL_HAS_BOOK_READER 1
-#endif
 
 #ifdef VIREO_TOOL_HAS_QT
 #include <QGuiApplication>
@@ -158,16 +154,12 @@ std::optional<std::string> LoadText(const PagesRequest& request, std::string& te
     }
     return std::nullopt;
   }
-#ifdef VIREO_TOOL_HAS_BOOK_READER
+  // The book text as the reader holds it, loaded with the default options.
   BookReadResult book = ReadEmbeddedBook(request.book_file, FormattingOptions{});
   if (!book.has_book)
     return book.message.empty() ? "no book in " + request.book_file : book.message;
   text = std::move(book.text);
   return std::nullopt;
-#else
-  // FIXME: paginating an ebook needs ReadEmbeddedBook from the book module.
-  return std::string("loading ebooks needs the book module");
-#endif
 }
 
 // Remembers when the page-passed event came.

@@ -6,6 +6,13 @@
 #include "layout/reindex.h"
 #include "support/error_trap.h"
 
+// The word loop's two hottest steps are worth inlining into it.
+#if defined(__GNUC__)
+#define VIREO_HOT_INLINE [[gnu::always_inline]] inline
+#else
+#define VIREO_HOT_INLINE inline
+#endif
+
 namespace vireo {
 namespace {
 
@@ -42,18 +49,25 @@ Int16 ImageLines(double height, double line_height) {
 PaginationPass::PaginationPass(clsReindex& owner, std::string& text, PageIndex& index,
                                const PassSettings& settings)
     : owner_(owner), text_(text), index_(index), settings_(settings), cursor_(text) {
-  tables_.Load(owner.metrics_);
+  tables_.Load(owner.metrics_, text.size());
   split_last_.fill(kNone);
 }
 
 void PaginationPass::Run() {
   do {
     TakeNextWord();
-    InspectWord();
-    if (HoldsImage()) PlaceImage();
-    SplitLongWord();
-    LayOut();
-    CloseStyles();
+    if (word_classes_ == 0 && !from_leftover_ && word_.length <= kLongWordLength) {
+      // Most words carry no code and are short: inspecting, placing an image,
+      // splitting and closing styles have nothing to do, and the width read
+      // with the word is the one to lay out.
+      LayOut();
+    } else {
+      InspectWord();
+      if (HoldsImage()) PlaceImage();
+      SplitLongWord();
+      LayOut();
+      CloseStyles();
+    }
     CheckReadersPage();
     ReportProgress();
   } while (!end_of_text_);
@@ -85,26 +99,82 @@ void PaginationPass::TakeLeftover() {
   measured_ = false;
 }
 
-void PaginationPass::TakeWordFromText() {
-  int64_t next = cursor_.NextSpace(scan_);
-  const int64_t hyphen = cursor_.NextHyphen(scan_);
-  hyphen_ = hyphen > scan_ && hyphen < next;
-  if (hyphen_) next = hyphen;
-  from_leftover_ = false;
+namespace {
+
+// Where a word read from the text ends, with its width and byte classes.
+template <typename Sum>
+struct WordEnd {
+  size_t end = 0;        // index of the delimiter, or the text size
+  bool stopped = false;  // ended at a delimiter rather than the end of the text
+  bool hyphen = false;   // the delimiter is a hyphen
+  Sum width = 0;
+  uint16_t classes = 0;
+};
+
+// The word ends at the next blank, or at the first hyphen at or after begin
+// when that is not the word's first character and a blank still follows it
+// (last_space is the 1-based position of the text's last blank).
+template <typename Sum>
+WordEnd<Sum> ReadWord(const char* data, size_t begin, size_t size, int64_t last_space,
+                      const Sum* table) {
+  const auto& classes = ByteClasses();
+  WordEnd<Sum> word;
+  bool first_hyphen = true;
+  size_t i = begin;
+  for (; i < size; ++i) {
+    const auto code = static_cast<unsigned char>(data[i]);
+    const uint16_t byte_class = classes[code];
+    if (byte_class & kDelimiterClasses) {
+      if (byte_class & kBlankClass) {
+        word.stopped = true;
+        break;
+      }
+      if (first_hyphen) {
+        first_hyphen = false;
+        if (i > begin && static_cast<int64_t>(i) + 1 < last_space) {
+          word.stopped = true;
+          word.hyphen = true;
+          break;
+        }
+      }
+    }
+    word.width += table[code];
+    word.classes = static_cast<uint16_t>(word.classes | byte_class);
+  }
+  word.end = i;
+  return word;
+}
+
+}  // namespace
+
+// Reads the word and sums its width in one pass, in whole units when the
+// tables allow it (the same value, found faster).
+VIREO_HOT_INLINE void PaginationPass::TakeWordFromText() {
+  const size_t size = text_.size();
   const size_t begin = static_cast<size_t>(scan_ - 1);
-  if (next != 0) {
-    word_ = {begin, static_cast<size_t>(next - scan_), false};
-    scan_ = next + 1;
+  WordEnd<double> word;
+  if (tables_.exact()) {
+    const WordEnd<int64_t> units =
+        ReadWord(text_.data(), begin, size, cursor_.LastSpace(), tables_.UnitsFor(bold_, italic_));
+    word = {units.end, units.stopped, units.hyphen,
+            static_cast<double>(units.width) / StyleTables::kUnitsPerTwip, units.classes};
+  } else {
+    word = ReadWord(text_.data(), begin, size, cursor_.LastSpace(), Table());
+  }
+  from_leftover_ = false;
+  hyphen_ = word.hyphen;
+  if (word.stopped) {
+    word_ = {begin, word.end - begin, false};
+    scan_ = static_cast<int64_t>(word.end) + 2;
     space_found_ = true;
   } else {
-    word_ = {begin, begin < text_.size() ? text_.size() - begin : 0, false};
+    word_ = {begin, begin < size ? size - begin : 0, false};
     end_of_text_ = true;
     newline_ = true;
     space_found_ = false;
   }
-  const WordScan scan = ScanWord(Table(), View(word_));
-  word_width_ = scan.width;
-  word_classes_ = scan.classes;
+  word_width_ = word.width;
+  word_classes_ = static_cast<uint16_t>(word.classes & kRememberedClasses);
   measured_ = true;
   measured_bold_ = bold_;
   measured_italic_ = italic_;
@@ -175,8 +245,11 @@ void PaginationPass::PlaceImage() {
 
 void PaginationPass::AddLines(int64_t position, int count) {
   const bool changes = owner_.InsertAllowed() && position >= 1;
+  const auto old_size = static_cast<int64_t>(text_.size());
   owner_.AddLines(text_, static_cast<int32_t>(position), count);
-  if (changes) cursor_.TextChanged(position, count < 1 ? 0 : 3 * static_cast<int64_t>(count));
+  if (changes) {
+    cursor_.TextChanged(position, count < 1 ? 0 : 3 * static_cast<int64_t>(count), old_size);
+  }
 }
 
 void PaginationPass::MeasureWord() {
@@ -224,7 +297,7 @@ void PaginationPass::RememberSplitWord() {
   const auto& classes = ByteClasses();
   const std::string_view word = View(word_);
   for (size_t i = 0; i < word.size(); ++i) {
-    uint16_t c = classes[static_cast<unsigned char>(word[i])];
+    uint16_t c = classes[static_cast<unsigned char>(word[i])] & kRememberedClasses;
     for (int bit = 0; c != 0; ++bit, c = static_cast<uint16_t>(c >> 1)) {
       if (c & 1) split_last_[bit] = word_.begin + i;
     }
@@ -236,7 +309,7 @@ void PaginationPass::RememberSplitWord() {
 // Step 5: the word joins the line, or ends it (a line feed, page break or
 // long-word piece ends it after the word; a word that does not fit starts
 // the next line); a full page opens the next.
-void PaginationPass::LayOut() {
+VIREO_HOT_INLINE void PaginationPass::LayOut() {
   const double* table = Table();
   const double space = table[static_cast<unsigned char>(' ')];
   const double width = word_width_ + space;

@@ -1,21 +1,15 @@
 #include "layout/text_cursor.h"
 
-#include <cstring>
-
 namespace vireo {
 
-int64_t TextCursor::Next(char wanted, int64_t position, int64_t& cached) {
-  // A remembered answer holds while the scan position has not passed it;
-  // "none" holds for every later position.
-  if (cached != kUnknown && (cached == 0 || cached >= position)) return cached;
-  const int64_t size = static_cast<int64_t>(text_.size());
-  cached = 0;
-  if (position >= 1 && position <= size) {
-    const void* found =
-        std::memchr(text_.data() + position - 1, wanted, static_cast<size_t>(size - position + 1));
-    if (found != nullptr) cached = static_cast<const char*>(found) - text_.data() + 1;
-  }
-  return cached;
+TextCursor::TextCursor(const std::string& text) : text_(text) {
+  last_space_ = LastSpaceBefore(static_cast<int64_t>(text_.size()) + 1);
+}
+
+int64_t TextCursor::LastSpaceBefore(int64_t position) const {
+  if (position <= 1) return 0;
+  const size_t at = text_.rfind(' ', static_cast<size_t>(position - 2));
+  return at == std::string::npos ? 0 : static_cast<int64_t>(at) + 1;
 }
 
 int64_t TextCursor::LastDelimiterAtOrBefore(int64_t position) {
@@ -32,16 +26,19 @@ int64_t TextCursor::LastDelimiterAtOrBefore(int64_t position) {
   return delimiter_;
 }
 
-void TextCursor::TextChanged(int64_t position, int64_t inserted_length) {
-  const int64_t shift = inserted_length - 1;
-  // New blanks may now lie ahead; the next hyphen only moves.
-  space_ = kUnknown;
-  if (hyphen_ > position) {
-    hyphen_ += shift;
-  } else if (hyphen_ != 0) {
-    hyphen_ = kUnknown;
-  }
+void TextCursor::TextChanged(int64_t position, int64_t inserted_length, int64_t old_size) {
   delimiter_query_ = kUnknown;
+  // Inserted paragraph marks end with a blank, which is then the last one
+  // unless a later blank moved along with the rest of the text.
+  if (position > old_size) {
+    if (inserted_length > 0) last_space_ = old_size + inserted_length;
+  } else if (last_space_ > position) {
+    last_space_ += inserted_length - 1;
+  } else if (inserted_length > 0) {
+    last_space_ = position + inserted_length - 1;
+  } else if (last_space_ == position) {
+    last_space_ = LastSpaceBefore(position);
+  }
 }
 
 }  // namespace vireo

@@ -2,6 +2,9 @@
 
 #include "layout/font_metrics.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace vireo {
 namespace {
 
@@ -10,6 +13,8 @@ constexpr std::array<uint16_t, 256> MakeByteClasses() {
   classes[0] = kNulClass;
   classes[10] = kLineFeedClass;
   classes['['] = kBracketClass;
+  classes[' '] = kBlankClass;
+  classes['-'] = kHyphenClass;
   classes[128] = kBoldOnClass;
   classes[129] = kBoldOffClass;
   classes[130] = kItalicOnClass;
@@ -29,20 +34,36 @@ const std::array<uint16_t, 256>& ByteClasses() { return kByteClasses; }
 uint16_t ClassesOf(std::string_view word) {
   uint16_t classes = 0;
   for (char c : word) classes |= kByteClasses[static_cast<unsigned char>(c)];
-  return classes;
+  return static_cast<uint16_t>(classes & kRememberedClasses);
 }
 
-void StyleTables::Load(const clsFontMetrics& metrics) {
+void StyleTables::Load(const clsFontMetrics& metrics, size_t text_size) {
   monotone_ = true;
+  exact_ = true;
+  double largest = 0;
   for (int style = 0; style < 4; ++style) {
     const auto& source = metrics.Table((style & 1) != 0, (style & 2) != 0);
     auto& table = tables_[style];
     table[0] = 0;
+    units_[style][0] = 0;
     for (int code = 1; code < 256; ++code) {
-      table[code] = source[code - 1];
-      if (!(table[code] >= 0)) monotone_ = false;
+      const double width = source[code - 1];
+      table[code] = width;
+      if (!(width >= 0)) monotone_ = false;
+      const double units = width * kUnitsPerTwip;
+      if (!std::isfinite(units) || units != std::floor(units) || std::fabs(units) > 0x1p40) {
+        exact_ = false;
+        units_[style][code] = 0;
+        continue;
+      }
+      units_[style][code] = static_cast<int64_t>(units);
+      largest = std::max(largest, std::fabs(units));
     }
   }
+  // Every sum the paginator makes covers at most the text and what image
+  // placeholders insert into it; below 2^52 units it is exact in a double.
+  const double longest = static_cast<double>(text_size) + 0x1p24;
+  if (largest * longest >= 0x1p52) exact_ = false;
 }
 
 StyleMarks StyleMarks::Of(std::string_view word) {

@@ -22,8 +22,14 @@ enum ByteClass : uint16_t {
   kUnderlineOffClass = 1 << 7,  // 136
   kBracketClass = 1 << 8,       // '[' (a possible image placeholder)
   kNulClass = 1 << 9,           // 0, outside the width tables
+  kBlankClass = 1 << 10,        // ' ' (ends a word)
+  kHyphenClass = 1 << 11,       // '-' (may end a word)
 };
+// The classes remembered for the pieces of a split word: all but the two
+// delimiters.
 inline constexpr int kByteClassCount = 10;
+inline constexpr uint16_t kRememberedClasses = (1 << kByteClassCount) - 1;
+inline constexpr uint16_t kDelimiterClasses = kBlankClass | kHyphenClass;
 inline constexpr uint16_t kStyleClasses = kBoldOnClass | kBoldOffClass | kItalicOnClass |
                                           kItalicOffClass | kUnderlineOnClass | kUnderlineOffClass;
 
@@ -33,34 +39,31 @@ const std::array<uint16_t, 256>& ByteClasses();
 // The four width tables indexed directly by byte (byte 0 reads 0).
 class StyleTables {
  public:
-  void Load(const clsFontMetrics& metrics);
-  const double* For(bool bold, bool italic) const {
-    return tables_[(bold ? 1 : 0) + (italic ? 2 : 0)].data();
+  // Fixed-point widths: units of 1/256 twip.
+  static constexpr double kUnitsPerTwip = 256;
+
+  // Loads the tables for a text of text_size bytes.
+  void Load(const clsFontMetrics& metrics, size_t text_size);
+  const double* For(bool bold, bool italic) const { return tables_[Index(bold, italic)].data(); }
+  const int64_t* UnitsFor(bool bold, bool italic) const {
+    return units_[Index(bold, italic)].data();
   }
   // True when no width is negative or NaN, so that the width of a prefix
   // never shrinks as it grows: long words can then be fitted in one pass.
   bool monotone() const { return monotone_; }
+  // True when every width is a whole number of units (as the 1/64 pixel
+  // advances of real fonts are) small enough that no sum over the text can
+  // round: double sums are then exact, so integer sums in units give the
+  // very same values whatever their order.
+  bool exact() const { return exact_; }
 
  private:
+  static constexpr int Index(bool bold, bool italic) { return (bold ? 1 : 0) + (italic ? 2 : 0); }
   std::array<std::array<double, 256>, 4> tables_{};
+  std::array<std::array<int64_t, 256>, 4> units_{};
   bool monotone_ = true;
+  bool exact_ = false;
 };
-
-struct WordScan {
-  double width = 0;  // the sum of the widths, left to right from 0
-  uint16_t classes = 0;
-};
-
-inline WordScan ScanWord(const double* table, std::string_view word) {
-  const auto& classes = ByteClasses();
-  WordScan scan;
-  for (char c : word) {
-    const auto code = static_cast<unsigned char>(c);
-    scan.width += table[code];
-    scan.classes |= classes[code];
-  }
-  return scan;
-}
 
 inline double SumWidths(const double* table, std::string_view word) {
   double width = 0;
@@ -68,6 +71,7 @@ inline double SumWidths(const double* table, std::string_view word) {
   return width;
 }
 
+// The remembered classes of the bytes of word.
 uint16_t ClassesOf(std::string_view word);
 
 // Which of each style's on and off codes came last in a stretch of text:
