@@ -4,13 +4,13 @@
 #include <string>
 #include <string_view>
 
+#include "app/key_map.h"
 #include "app/main_window_view.h"
 #include "book/load_file.h"
 #include "layout/page_index.h"
 #include "layout/reindex.h"
 #include "nav/page_navigation.h"
 #include "nav/search.h"
-#include "app/key_map.h"
 #include "prefs/reader_preferences.h"
 #include "render/book_display.h"
 #include "render/page_boxes.h"
@@ -208,6 +208,7 @@ class frmMain : public LoadFileHost,
   void ShowPageCount(int32_t page_count, uint32_t colour);
   void DrawSpreadAt(int32_t position);
   void RebuildFontTables();
+  void EnsureFontTables();
   void SyncTurnSettings();
   void StepFontSize(int step);
   void RepaginateAtBookmark();
@@ -227,6 +228,7 @@ class frmMain : public LoadFileHost,
   bool resizing_ = false;
   bool reformat_ = true;
   bool font_guard_ = false;
+  bool font_tables_stale_ = true;
   WindowSize size_at_reindex_;
   WindowSize laid_out_size_;
   BookSearch search_;
@@ -241,6 +243,8 @@ class frmMain : public LoadFileHost,
   std::string caption_;
   std::string search_term_;
   std::string page_label_;
+  int32_t page_label_count_ = -1;
+  uint32_t page_label_colour_ = 0;
   std::string loading_path_;
 
   clsReindex reindex_;

@@ -91,8 +91,13 @@ void frmMain::StoreCurrentBookmark() {
 
 void frmMain::SaveBookmarks() { vireo::SaveBookmarks(); }
 
+// Called for every word while the count sits on a multiple of 25: the label
+// is only touched when what it shows changes.
 void frmMain::ShowPageCount(int32_t page_count, uint32_t colour) {
+  if (page_count == page_label_count_ && colour == page_label_colour_) return;
   page_label_ = std::to_string(page_count) + " " + GetTranslation("pages");
+  page_label_count_ = page_count;
+  page_label_colour_ = colour;
   view_.SetPageLabel(page_label_, colour);
 }
 
@@ -104,11 +109,13 @@ void frmMain::ReindexFile(bool keep_position) {
     const int32_t reading_position = keep_position ? LastBookmark() : 0;
     pages_.count = 1;
     SetCaption(WithoutReindexingMark(caption_) + std::string(kReindexingMark));
+    page_label_colour_ = kRed;
     view_.SetPageLabel(page_label_, kRed);
     RedShape(*this, pump_);
     pump_.Yield();
     cache_.ResetCache();
     const PageTextArea& area = plotter_.text_area();
+    EnsureFontTables();
     reindex_.NewReindexFile(book_text_, InsertMode::kAllowed, pages_, reading_position,
                             area.text_width, area.lines_per_page, area.line_height);
     ++book_version_;  // pictures may have made room for themselves in the text

@@ -39,19 +39,44 @@ bool frmMain::Form_KeyUp(int virtual_key, ShiftKey shift) {
   Trap("sub form_keyup", kModule, [&] {
     if (reindex_.Busy()) return;
     switch (CommandForKey(virtual_key, shift)) {
-      case KeyCommand::kPreviousPage: PreviousPage(); break;
-      case KeyCommand::kNextPage: NextPage(); break;
-      case KeyCommand::kSinglePageMode: SwitchPageMode(true); break;
-      case KeyCommand::kTwoPageMode: SwitchPageMode(false); break;
-      case KeyCommand::kGotoPage: GotoPage(); break;
-      case KeyCommand::kToggleBar: ToggleBar(); break;
-      case KeyCommand::kEnterSearchTerm: GetSearchTerm(); break;
-      case KeyCommand::kFindNext: FindNext(); break;
-      case KeyCommand::kFindPrevious: FindPrev(); break;
-      case KeyCommand::kLoad: mnuLoad_Click(); break;
-      case KeyCommand::kQuit: Quit(); break;
-      case KeyCommand::kHelp: mnuHelp_Click(); break;
-      case KeyCommand::kNone: break;
+      case KeyCommand::kPreviousPage:
+        PreviousPage();
+        break;
+      case KeyCommand::kNextPage:
+        NextPage();
+        break;
+      case KeyCommand::kSinglePageMode:
+        SwitchPageMode(true);
+        break;
+      case KeyCommand::kTwoPageMode:
+        SwitchPageMode(false);
+        break;
+      case KeyCommand::kGotoPage:
+        GotoPage();
+        break;
+      case KeyCommand::kToggleBar:
+        ToggleBar();
+        break;
+      case KeyCommand::kEnterSearchTerm:
+        GetSearchTerm();
+        break;
+      case KeyCommand::kFindNext:
+        FindNext();
+        break;
+      case KeyCommand::kFindPrevious:
+        FindPrev();
+        break;
+      case KeyCommand::kLoad:
+        mnuLoad_Click();
+        break;
+      case KeyCommand::kQuit:
+        Quit();
+        break;
+      case KeyCommand::kHelp:
+        mnuHelp_Click();
+        break;
+      case KeyCommand::kNone:
+        break;
     }
   });
   return true;  // the key is consumed either way
@@ -161,8 +186,7 @@ void frmMain::Form_Resize() {
       resizing_ = false;
       return;
     }
-    const double minimum_width =
-        prefs_.bar_hidden ? kHiddenBarMinimumWidth : kShownBarMinimumWidth;
+    const double minimum_width = prefs_.bar_hidden ? kHiddenBarMinimumWidth : kShownBarMinimumWidth;
     if (size.width < minimum_width) view_.SetWindowWidth(minimum_width);
     if (size.height < kMinimumHeight) view_.SetWindowHeight(kMinimumHeight);
     resizing_ = false;
@@ -218,22 +242,23 @@ void frmMain::ReloadBook() {
 void frmMain::mnuErasefile_Click() {
   Trap("sub mnuerasefile_click", kModule, [&] {
     if (font_guard_ || book_path_.empty()) return;
-    const std::string question = GetTranslation("Do you really want to erase") + " " +
-                                 book_path_ + " " + GetTranslation("from your hard disk?");
+    const std::string question = GetTranslation("Do you really want to erase") + " " + book_path_ +
+                                 " " + GetTranslation("from your hard disk?");
     if (!user_.AskYesNo(question, "Vireo")) return;
     if (std::remove(book_path_.c_str()) != 0) throw RuntimeError(ErrorNumber::kPathFileAccess);
     book_loaded_ = false;
     SetCaption("Vireo");
     DrawTitlePage();
     page_label_.clear();
+    page_label_count_ = -1;
     view_.SetPageLabel("", view_.SystemButtonTextColour());
   });
 }
 
 void frmMain::mnuEraseBookmarks_Click() {
   Trap("sub mnuerasebookmarks_click", kModule, [&] {
-    if (user_.AskYesNo(
-            GetTranslation("This will erase bookmarks for all files. Are you sure?"), "Vireo")) {
+    if (user_.AskYesNo(GetTranslation("This will erase bookmarks for all files. Are you sure?"),
+                       "Vireo")) {
       EraseAllBookmarks();
     }
   });
@@ -242,10 +267,9 @@ void frmMain::mnuEraseBookmarks_Click() {
 void frmMain::Page_OLEDragDrop(const std::string& path) {
   Trap("sub page_oledragdrop", kModule, [&] {
     const std::string name = UpperCase(path);
-    const bool known = std::any_of(std::begin(kDroppableTypes), std::end(kDroppableTypes),
-                                   [&](std::string_view type) {
-                                     return name.find(type) != std::string::npos;
-                                   });
+    const bool known =
+        std::any_of(std::begin(kDroppableTypes), std::end(kDroppableTypes),
+                    [&](std::string_view type) { return name.find(type) != std::string::npos; });
     if (!known) {
       user_.ShowMessage(GetTranslation("Cannot load that type of file"), "Vireo");
       return;

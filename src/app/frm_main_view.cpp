@@ -50,7 +50,15 @@ void frmMain::SetFontStyle(const std::string& name) {
   });
 }
 
-void frmMain::RebuildFontTables() { reindex_.FontMetrics().MakeArrays(Box(kLeftPageBox)); }
+// The tables are measured when they are next needed, so that setting the
+// font name and then its size measures once.
+void frmMain::RebuildFontTables() { font_tables_stale_ = true; }
+
+void frmMain::EnsureFontTables() {
+  if (!font_tables_stale_) return;
+  font_tables_stale_ = false;
+  reindex_.FontMetrics().MakeArrays(Box(kLeftPageBox));
+}
 
 void frmMain::RedrawPages() {
   Trap("sub redrawpages", kModule, [&] {
@@ -133,6 +141,7 @@ void frmMain::PlaceLanguageList(const LanguageListPlacement& placement) {
 // BookDisplay
 
 void frmMain::PlotOnPage(PageSide side, int box, int page) {
+  EnsureFontTables();
   plotter_.PlotOnPage(static_cast<int>(side), box, page);
   view_.RefreshBox(box);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QWidget>
 
 #include "support/user_interaction.h"
@@ -33,8 +34,12 @@ class StderrInteraction : public UserInteraction {
 // The Qt event loop as the core's message pump.
 class QtMessagePump : public MessagePump {
  public:
+  static constexpr qint64 kYieldIntervalMs = 4;
   void Yield() override;
   void SleepMilliseconds(int milliseconds) override;
+
+ private:
+  QElapsedTimer since_last_yield_;
 };
 
 // True when VIREO_NONINTERACTIVE is set to anything but "" or "0".

@@ -12,6 +12,7 @@
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QDragEnterEvent>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QUrl>
@@ -90,8 +91,7 @@ void MainWindow::ConnectCommands() {
 
 void MainWindow::ConnectMenu() {
   const auto on = [this](const char* item, auto&& action) {
-    connect(menu_->Item(item), &QAction::triggered, this,
-            std::forward<decltype(action)>(action));
+    connect(menu_->Item(item), &QAction::triggered, this, std::forward<decltype(action)>(action));
   };
   on("mnuExit", [this] { logic_.Quit(); });
   on("mnuLoad", [this] { logic_.mnuLoad_Click(); });
@@ -110,9 +110,8 @@ void MainWindow::ConnectMenu() {
   on("mnuToggleBar", [this] {
     if (!logic_.paginator_busy()) logic_.ToggleBar();
   });
-  on("mnuCopyPage", [this] {
-    QApplication::clipboard()->setImage(canvas_->BoxImage(kLeftPageBox));
-  });
+  on("mnuCopyPage",
+     [this] { QApplication::clipboard()->setImage(canvas_->BoxImage(kLeftPageBox)); });
   on("mnuPayAuthor", [this] { OpenAddress(QString::fromUtf8(kMakerPaymentPage.data())); });
   on("mnuCheckUpdate", [this] { OpenAddress(QString::fromUtf8(kMakerUpdatePage.data())); });
   on("mnuGutenberg", [this] { OpenAddress("https://www.gutenberg.org"); });
@@ -136,13 +135,13 @@ void MainWindow::ConnectPlannedItems() {
   connect(menu_->Item("mnuEbook"), &QAction::triggered, this,
           say("Create ebook will make a self-contained ebook from a text file. Until it is "
               "here, use vireo-tool make."));
-  const auto settings = say(
-      "Page Setup will change colours, borders, texture and page turning. It is not available "
-      "in this version; the settings can be edited in Vireo.ini.");
+  const auto settings =
+      say("Page Setup will change colours, borders, texture and page turning. It is not available "
+          "in this version; the settings can be edited in Vireo.ini.");
   connect(bar_->cmdPageSetup, &QPushButton::clicked, this, settings);
   connect(menu_->Item("mnuColours"), &QAction::triggered, this, settings);
-  const auto font = say(
-      "Change Font will let you choose the book's font. It is not available in this version.");
+  const auto font =
+      say("Change Font will let you choose the book's font. It is not available in this version.");
   connect(bar_->Label1, &ClickLabel::clicked, this, font);
   connect(menu_->Item("mnuSelectFont"), &QAction::triggered, this, font);
   const auto language = say("Translations come with a later version; Vireo speaks English.");
@@ -172,9 +171,9 @@ PageChooser& MainWindow::PageDialog() { return page_dialog_; }
 void MainWindow::OnPageMouse(int page, QEvent::Type type, Qt::MouseButton button,
                              Qt::KeyboardModifiers modifiers, double, double y) {
   PageMouseEvent event;
-  event.kind = type == QEvent::MouseButtonPress  ? PageMouseEventKind::kDown
-               : type == QEvent::MouseMove       ? PageMouseEventKind::kMove
-                                                 : PageMouseEventKind::kUp;
+  event.kind = type == QEvent::MouseButtonPress ? PageMouseEventKind::kDown
+               : type == QEvent::MouseMove      ? PageMouseEventKind::kMove
+                                                : PageMouseEventKind::kUp;
   event.page_box = page;
   event.button = button == Qt::LeftButton    ? PageMouseButton::kLeft
                  : button == Qt::RightButton ? PageMouseButton::kRight
@@ -188,13 +187,22 @@ void MainWindow::OnPageMouse(int page, QEvent::Type type, Qt::MouseButton button
   const PageTextArea& area = logic_.text_area();
   const PageMouseContext context{
       logic_.preferences().single_page_mode ? PageMode::kSingle : PageMode::kDouble,
-      logic_.navigator().navigation_busy(), area.top_border, area.line_pitch,
-      area.lines_per_page, marked_line_};
+      logic_.navigator().navigation_busy(),
+      area.top_border,
+      area.line_pitch,
+      area.lines_per_page,
+      marked_line_};
   const PageMouseDecision decision = DecidePageMouse(event, context);
   switch (decision.action) {
-    case PageMouseAction::kTurnForward: logic_.NextPage(); break;
-    case PageMouseAction::kTurnBack: logic_.PreviousPage(); break;
-    case PageMouseAction::kContextMenu: menu_->popup(QCursor::pos()); break;
+    case PageMouseAction::kTurnForward:
+      logic_.NextPage();
+      break;
+    case PageMouseAction::kTurnBack:
+      logic_.PreviousPage();
+      break;
+    case PageMouseAction::kContextMenu:
+      menu_->popup(QCursor::pos());
+      break;
     case PageMouseAction::kMarkLine:
     case PageMouseAction::kMoveMark:
       marked_line_ = decision.line;
@@ -205,7 +213,8 @@ void MainWindow::OnPageMouse(int page, QEvent::Type type, Qt::MouseButton button
       marked_line_ = 0;
       canvas_->SetMarker(-1, 0, 0);
       break;
-    case PageMouseAction::kNone: break;
+    case PageMouseAction::kNone:
+      break;
   }
 }
 
@@ -317,13 +326,24 @@ Surface& MainWindow::Box(int box) { return canvas_->Box(box); }
 void MainWindow::SetBoxBackColour(int box, uint32_t bgr) { canvas_->SetBoxBackColour(box, bgr); }
 
 void MainWindow::SetBoxTexture(int box, std::optional<int> slot) {
-  const bool usable = slot && *slot >= 0 && *slot < 4 && !textures_[*slot].isNull();
-  canvas_->SetBoxTexture(box, usable ? &textures_[*slot] : nullptr);
+  const QImage* texture = slot && *slot >= 0 && *slot < 4 ? &Texture(*slot) : nullptr;
+  canvas_->SetBoxTexture(box, texture != nullptr && !texture->isNull() ? texture : nullptr);
 }
 
+// Textures are decoded when first shown: a reader uses one paper of the four.
 bool MainWindow::LoadTexture(int slot, const std::string& path) {
   if (slot < 0 || slot >= 4) return false;
-  return textures_[slot].load(QString::fromLocal8Bit(path.c_str()));
+  texture_paths_[slot] = QString::fromLocal8Bit(path.c_str());
+  textures_[slot] = QImage();
+  return QFileInfo(texture_paths_[slot]).isReadable();
+}
+
+const QImage& MainWindow::Texture(int slot) {
+  if (textures_[slot].isNull() && !texture_paths_[slot].isEmpty()) {
+    textures_[slot].load(texture_paths_[slot]);
+    texture_paths_[slot].clear();  // a picture that does not load is tried once
+  }
+  return textures_[slot];
 }
 
 void MainWindow::CopyBox(int source_box, int destination_box) {
@@ -433,11 +453,16 @@ namespace {
 // the same codes).
 int VirtualKey(int qt_key) {
   switch (qt_key) {
-    case Qt::Key_Space: return vk::kSpace;
-    case Qt::Key_Left: return vk::kLeft;
-    case Qt::Key_Right: return vk::kRight;
-    case Qt::Key_F1: return vk::kF1;
-    default: return (qt_key >= '0' && qt_key <= 'Z') ? qt_key : 0;
+    case Qt::Key_Space:
+      return vk::kSpace;
+    case Qt::Key_Left:
+      return vk::kLeft;
+    case Qt::Key_Right:
+      return vk::kRight;
+    case Qt::Key_F1:
+      return vk::kF1;
+    default:
+      return (qt_key >= '0' && qt_key <= 'Z') ? qt_key : 0;
   }
 }
 

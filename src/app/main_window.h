@@ -116,7 +116,10 @@ class MainWindow : public QMainWindow, public MainWindowView {
   OptionsMenu* menu_;
   QListWidget* lstLanguages_;
   QLabel* lblLanguages_;
+  const QImage& Texture(int slot);
+
   std::array<QImage, 4> textures_;
+  std::array<QString, 4> texture_paths_;
   frmMain logic_;
   std::unique_ptr<SplashWindow> splash_;
   QString exit_caption_;

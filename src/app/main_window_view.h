@@ -5,11 +5,11 @@
 #include <string>
 #include <string_view>
 
+#include "nav/page_navigation.h"
 #include "prefs/reader_preferences.h"
 #include "render/book_display.h"
 #include "render/book_view.h"
 #include "render/title_page.h"
-#include "nav/page_navigation.h"
 
 namespace vireo {
 

@@ -31,7 +31,8 @@ TEST(BookOnScreen, InkStaysInTheTextAreaAndThePageNumberIsCentredAtTheFoot) {
   test::ReaderWindow reader(test::SampleProse(30), kPlainPaper);
   reader.Start();
   ASSERT_TRUE(reader.logic().book_loaded());
-  const QImage page = reader.window().canvas().BoxImage(kLeftPageBox).convertToFormat(QImage::Format_RGB32);
+  const QImage page =
+      reader.window().canvas().BoxImage(kLeftPageBox).convertToFormat(QImage::Format_RGB32);
   const PageTextArea& area = reader.logic().text_area();
   const int band_top = Px(page.height() * 15 - (area.line_height + 45)) - 2;
   ASSERT_GT(band_top, 0);
@@ -51,14 +52,17 @@ TEST(BookOnScreen, InkStaysInTheTextAreaAndThePageNumberIsCentredAtTheFoot) {
 
 TEST(BookOnScreen, TheTextureShowsWhenChosenAndNotAtMinusOne) {
   const auto with_texture = [](int texture_num) {
-    test::ReaderWindow reader(test::SampleProse(3),
-                              "TEXTURENUM," + std::to_string(texture_num) +
-                                  "\r\nPAPERCOLOUR,14741759\r\n");
+    test::ReaderWindow reader(test::SampleProse(3), "TEXTURENUM," + std::to_string(texture_num) +
+                                                        "\r\nPAPERCOLOUR,14741759\r\n");
     QImage texture(1600, 1600, QImage::Format_RGB32);
     texture.fill(qRgb(20, 160, 40));
     texture.save(QString::fromStdString(reader.folder().File("paper1.jpg")), "JPG", 100);
     reader.Start();
-    return reader.window().canvas().BoxImage(kLeftPageBox).convertToFormat(QImage::Format_RGB32).pixel(3, 3);
+    return reader.window()
+        .canvas()
+        .BoxImage(kLeftPageBox)
+        .convertToFormat(QImage::Format_RGB32)
+        .pixel(3, 3);
   };
   const QColor textured = QColor::fromRgb(with_texture(0));
   EXPECT_NEAR(textured.green(), 160, 6);
@@ -100,7 +104,8 @@ TEST(BookOnScreen, DoublePageModeShowsTheFirstSpreadAndTheCount) {
   EXPECT_EQ(reader.window().bar().lblPageNum->text(),
             QString::number(reader.logic().pages().count) + " pages");
   EXPECT_EQ(reader.window().windowTitle(), "Book");
-  const QImage right = reader.window().canvas().BoxImage(kRightPageBox).convertToFormat(QImage::Format_RGB32);
+  const QImage right =
+      reader.window().canvas().BoxImage(kRightPageBox).convertToFormat(QImage::Format_RGB32);
   EXPECT_FALSE(InkBounds(right, 0, right.height()).isEmpty());
 }
 

@@ -36,8 +36,8 @@ class ReaderWindow {
     ClearActions();
     qputenv("XDG_DATA_HOME", folder_.File("xdg").c_str());
     if (!settings.empty()) WriteFile(folder_.File("Vireo.ini"), settings);
-    const std::string body = PackBody(PackableText(text, TextEncoding::kWindows1252), "Author",
-                                      "Title");
+    const std::string body =
+        PackBody(PackableText(text, TextEncoding::kWindows1252), "Author", "Title");
     book_ = folder_.File("Book");
     WriteFile(book_, EbookFile("stub program", body));
     window_ = std::make_unique<MainWindow>(user_, ProgramLocation{folder_.str(), book_});

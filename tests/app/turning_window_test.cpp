@@ -12,8 +12,7 @@ namespace {
 
 void ClickPage(test::ReaderWindow& reader, int frame, Qt::KeyboardModifiers modifiers = {}) {
   BookCanvasWidget& canvas = reader.window().canvas();
-  QTest::mouseClick(&canvas, Qt::LeftButton, modifiers,
-                    canvas.FrameRect(frame).center().toPoint());
+  QTest::mouseClick(&canvas, Qt::LeftButton, modifiers, canvas.FrameRect(frame).center().toPoint());
   QApplication::processEvents();
 }
 

@@ -8,9 +8,9 @@ namespace {
 
 // A text of about `bytes` bytes of varied prose in paragraphs.
 std::string Prose(size_t bytes) {
-  static const char* const kWords[] = {"the", "reader", "turns", "a", "page", "and",
-                                       "finds", "another", "chapter", "waiting", "quietly",
-                                       "for", "evening", "light"};
+  static const char* const kWords[] = {"the",     "reader", "turns",   "a",       "page",
+                                       "and",     "finds",  "another", "chapter", "waiting",
+                                       "quietly", "for",    "evening", "light"};
   std::string text;
   unsigned seed = 12345;
   while (text.size() < bytes) {
@@ -37,10 +37,10 @@ TEST(FirstSpread, IsOnScreenBeforeA5MegabyteBookIsPaginated) {
                                   " -o " + program.Path("Big") + " --stub " + program.Path("Vireo"),
                               {}, program.folder());
   ASSERT_EQ(made.status, 0) << made.err;
-  const auto run = test::Run(program.Path("Big"),
-                             test::Unattended(program.folder(),
-                                              {"VIREO_TIMING=1", "VIREO_QUIT_AFTER_MS=0"}),
-                             program.folder());
+  const auto run =
+      test::Run(program.Path("Big"),
+                test::Unattended(program.folder(), {"VIREO_TIMING=1", "VIREO_QUIT_AFTER_MS=0"}),
+                program.folder());
   ASSERT_EQ(run.status, 0) << run.err;
   const long long first = Milestone(run.err, "first spread");
   const long long finished = Milestone(run.err, "pagination finished");

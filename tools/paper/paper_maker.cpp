@@ -103,8 +103,10 @@ int main(int argc, char* argv[]) {
     return 2;
   }
   const std::string folder = argv[1];
-  const int width = argc > 3 ? std::atoi(argv[2]) : 1800;
-  const int height = argc > 3 ? std::atoi(argv[3]) : 2400;
+  // Large enough for a page of a maximised window; small enough to decode
+  // quickly at start-up.
+  const int width = argc > 3 ? std::atoi(argv[2]) : 1280;
+  const int height = argc > 3 ? std::atoi(argv[3]) : 1600;
   for (int i = 0; i < 4; ++i) {
     const std::string path = folder + "/paper" + std::to_string(i + 1) + ".jpg";
     if (!Draw(kPapers[i], width, height).save(QString::fromStdString(path), "JPG", 90)) {
