@@ -14,7 +14,7 @@
 #include "layout/reindex.h"
 
 #ifdef VIREO_BENCH_HAS_QT
-#include <QGuiApplication>
+#include "bench_qt.h"
 
 #include "render/qt_surface_qt.h"
 #endif
@@ -51,16 +51,7 @@ const std::string& BookText() {
 }
 
 #ifdef VIREO_BENCH_HAS_QT
-void EnsureApplication() {
-  static QGuiApplication* application = [] {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int argc = 1;
-    static char name[] = "vireo_bench";
-    static char* argv[] = {name, nullptr};
-    return new QGuiApplication(argc, argv);  // lives to the end of the process
-  }();
-  (void)application;
-}
+void EnsureApplication() { bench::EnsureApplication(); }
 #endif
 
 // Tables of "Times New Roman" 12 pt when Qt is built in; otherwise a

@@ -37,6 +37,7 @@ BookCanvasWidget::~BookCanvasWidget() = default;
 void BookCanvasWidget::ResizeBuffers(double width_twips, double height_twips) {
   const qreal ratio = devicePixelRatioF();
   for (int box = 0; box < 8; ++box) {
+    surfaces_[box]->EndPainting();
     images_[box] = BlankBuffer(width_twips, height_twips, ratio);
     surfaces_[box]->Clear();
   }
@@ -67,21 +68,23 @@ void BookCanvasWidget::SetBoxTexture(int box, const QImage* texture) {
 }
 
 void BookCanvasWidget::CopyBox(int source_box, int destination_box) {
+  surfaces_[destination_box]->EndPainting();
   QPainter painter(&images_[destination_box]);
   painter.setCompositionMode(QPainter::CompositionMode_Source);
-  painter.drawImage(QPointF(0, 0), images_[source_box]);
+  painter.drawImage(QPointF(0, 0), BoxImage(source_box));
   painter.end();
   RefreshBox(destination_box);
 }
 
 void BookCanvasWidget::StretchBox(int source_box, int destination_box, double width_twips) {
   if (width_twips <= 0) return;
+  surfaces_[destination_box]->EndPainting();
   QImage& destination = images_[destination_box];
   const QSizeF logical = destination.deviceIndependentSize();
   QPainter painter(&destination);
   painter.setCompositionMode(QPainter::CompositionMode_Source);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  painter.drawImage(QRectF(0, 0, Pixels(width_twips), logical.height()), images_[source_box]);
+  painter.drawImage(QRectF(0, 0, Pixels(width_twips), logical.height()), BoxImage(source_box));
   painter.end();
   RefreshBox(destination_box);
 }
@@ -120,7 +123,7 @@ void BookCanvasWidget::PaintFrame(QPainter& painter, int frame) const {
   for (int box : stacking_[frame]) {
     const BoxPlace& place = boxes_[box];
     if (!place.visible || place.width <= 0) continue;
-    const QImage& image = images_[box];
+    const QImage& image = BoxImage(box);
     const qreal ratio = image.devicePixelRatio();
     const QRectF target(area.left() + Pixels(place.left), area.top(), Pixels(place.width),
                         area.height());

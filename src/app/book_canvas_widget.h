@@ -35,7 +35,11 @@ class BookCanvasWidget : public QWidget {
   const BookViewLayout& layout() const { return layout_; }
 
   QtSurface& Box(int box) { return *surfaces_[box]; }
-  const QImage& BoxImage(int box) const { return images_[box]; }
+  // The box's buffer with all drawing on it finished.
+  const QImage& BoxImage(int box) const {
+    surfaces_[box]->EndPainting();
+    return images_[box];
+  }
   void SetBoxBackColour(int box, uint32_t bgr);
   // Texture (nullptr: none), then the buffer is repainted with its paper.
   void SetBoxTexture(int box, const QImage* texture);

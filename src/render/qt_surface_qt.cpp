@@ -1,5 +1,6 @@
 #include "render/qt_surface_qt.h"
 
+#include <QGlyphRun>
 #include <QPainter>
 #include <QString>
 
@@ -42,12 +43,40 @@ QtSurface::QtSurface(QImage* image) : image_(image), font_(BookFont()) {
   }
 }
 
+QtSurface::~QtSurface() = default;
+
 QColor QtSurface::ColorFromBgr(uint32_t bgr) {
   return QColor(static_cast<int>(bgr & 0xFF), static_cast<int>((bgr >> 8) & 0xFF),
                 static_cast<int>((bgr >> 16) & 0xFF));
 }
 
 void QtSurface::FontChanged() { metrics_.reset(); }
+
+void QtSurface::FaceChanged() {
+  for (auto& table : glyph_tables_) table.reset();
+  FontChanged();
+}
+
+// Glyph and advance of every Windows-1252 character in the current style,
+// made once per face, size and style: drawing a run is then table look-ups
+// and one glyph run, without shaping the text again.
+const QtSurface::GlyphTable& QtSurface::Glyphs() const {
+  auto& table = glyph_tables_[(font_.bold() ? 1 : 0) + (font_.italic() ? 2 : 0)];
+  if (table) return *table;
+  table.emplace();
+  table->raw = QRawFont::fromFont(font_);
+  QString characters;
+  for (int code = 0; code < 256; ++code) {
+    characters.append(
+        QChar(static_cast<char16_t>(Windows1252ToUnicode(static_cast<uint8_t>(code)))));
+  }
+  const QList<quint32> glyphs = table->raw.glyphIndexesForString(characters);
+  for (int code = 0; code < 256; ++code) {
+    table->glyphs[code] = code < glyphs.size() ? glyphs[code] : 0;
+    table->advances[code] = Metrics().horizontalAdvance(characters[code]);
+  }
+  return *table;
+}
 
 const QFontMetricsF& QtSurface::Metrics() const {
   // Measured on the image itself so that measuring and drawing use the same
@@ -58,12 +87,12 @@ const QFontMetricsF& QtSurface::Metrics() const {
 
 void QtSurface::SetFontName(std::string_view name) {
   font_.setFamily(FromWindows1252(name));
-  FontChanged();
+  FaceChanged();
 }
 
 void QtSurface::SetFontSize(double points) {
   if (points > 0) font_.setPointSizeF(points);
-  FontChanged();
+  FaceChanged();
 }
 
 void QtSurface::SetFontBold(bool bold) {
@@ -84,8 +113,13 @@ void QtSurface::SetFontUnderline(bool underline) {
   FontChanged();
 }
 
+// With kerning and shaping off a run is exactly as wide as its characters,
+// so widths come from the same advances that place the glyphs.
 double QtSurface::TextWidth(std::string_view text) const {
-  return Metrics().horizontalAdvance(FromWindows1252(text)) * kTwipsPerPixel;
+  const GlyphTable& table = Glyphs();
+  qreal width = 0;
+  for (char c : text) width += table.advances[static_cast<uint8_t>(c)];
+  return width * kTwipsPerPixel;
 }
 
 double QtSurface::TextHeight(std::string_view) const { return Metrics().height() * kTwipsPerPixel; }
@@ -101,24 +135,46 @@ double QtSurface::ScaleHeight() const {
 }
 
 void QtSurface::DrawText(std::string_view text) {
-  const QString unicode = FromWindows1252(text);
-  {
-    QPainter painter(image_);
-    painter.setFont(font_);
-    painter.setPen(ColorFromBgr(ForeColor()));
-    const QPointF baseline(CurrentX() / kTwipsPerPixel,
-                           CurrentY() / kTwipsPerPixel + Metrics().ascent());
-    painter.drawText(baseline, unicode);
+  if (text.empty()) return;
+  const GlyphTable& table = Glyphs();
+  QList<quint32> glyphs;
+  QList<QPointF> positions;
+  glyphs.reserve(static_cast<qsizetype>(text.size()));
+  positions.reserve(static_cast<qsizetype>(text.size()));
+  qreal x = 0;
+  for (char c : text) {
+    const auto code = static_cast<uint8_t>(c);
+    glyphs.append(table.glyphs[code]);
+    positions.append(QPointF(x, 0));
+    x += table.advances[code];
   }
-  SetCurrentX(CurrentX() + Metrics().horizontalAdvance(unicode) * kTwipsPerPixel);
+  QGlyphRun run;
+  run.setRawFont(table.raw);
+  run.setGlyphIndexes(glyphs);
+  run.setPositions(positions);
+  run.setUnderline(font_.underline());
+  QPainter& painter = Painter();
+  painter.setPen(ColorFromBgr(ForeColor()));
+  painter.drawGlyphRun(
+      QPointF(CurrentX() / kTwipsPerPixel, CurrentY() / kTwipsPerPixel + Metrics().ascent()), run);
+  SetCurrentX(CurrentX() + x * kTwipsPerPixel);
 }
 
+// One painter serves a whole page of runs; it is ended before anything else
+// touches the image.
+QPainter& QtSurface::Painter() {
+  if (!painter_) painter_ = std::make_unique<QPainter>(image_);
+  return *painter_;
+}
+
+void QtSurface::EndPainting() { painter_.reset(); }
+
 void QtSurface::DrawPicture(const QImage& picture, double x_twips, double y_twips) {
-  QPainter painter(image_);
-  painter.drawImage(QPointF(x_twips / kTwipsPerPixel, y_twips / kTwipsPerPixel), picture);
+  Painter().drawImage(QPointF(x_twips / kTwipsPerPixel, y_twips / kTwipsPerPixel), picture);
 }
 
 void QtSurface::Clear() {
+  EndPainting();
   SetCurrentX(0);
   SetCurrentY(0);
   image_->fill(ColorFromBgr(back_color_));

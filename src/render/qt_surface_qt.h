@@ -3,6 +3,11 @@
 #include <QFont>
 #include <QFontMetricsF>
 #include <QImage>
+#include <QRawFont>
+#include <array>
+#include <memory>
+
+class QPainter;
 #include <cstdint>
 #include <optional>
 
@@ -30,9 +35,19 @@ class QtSurface : public Surface {
   // A surface drawing on the caller's image, which must outlive it and be
   // ARGB32 premultiplied (it is converted otherwise).
   explicit QtSurface(QImage* image);
+  ~QtSurface() override;
+  QtSurface(const QtSurface&) = delete;
+  QtSurface& operator=(const QtSurface&) = delete;
 
-  QImage& image() { return *image_; }
+  // The image, with every drawing so far finished on it.
+  QImage& image() {
+    EndPainting();
+    return *image_;
+  }
   const QImage& image() const { return *image_; }
+  // Finishes the drawing in progress (text is drawn through one painter that
+  // stays open between runs); call before using the image otherwise.
+  void EndPainting();
 
   // Defaults: "Times New Roman", 12 points, plain.
   void SetFontName(std::string_view name) override;
@@ -75,7 +90,15 @@ class QtSurface : public Surface {
   static QColor ColorFromBgr(uint32_t bgr);
 
  private:
+  struct GlyphTable {
+    QRawFont raw;
+    std::array<quint32, 256> glyphs{};
+    std::array<qreal, 256> advances{};  // logical pixels
+  };
   void FontChanged();
+  void FaceChanged();
+  const GlyphTable& Glyphs() const;
+  QPainter& Painter();
   const QFontMetricsF& Metrics() const;
 
   QImage own_image_;
@@ -84,6 +107,8 @@ class QtSurface : public Surface {
   mutable std::optional<QFontMetricsF> metrics_;
   uint32_t back_color_ = 0x00FFFFFF;
   QImage texture_;
+  mutable std::array<std::optional<GlyphTable>, 4> glyph_tables_;  // plain, bold, italic, both
+  std::unique_ptr<QPainter> painter_;
 };
 
 }  // namespace vireo

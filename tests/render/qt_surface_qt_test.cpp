@@ -7,13 +7,17 @@
 
 #include "layout/font_metrics.h"
 
+#include <memory>
+
 namespace vireo {
 namespace {
 
-QtSurface BookSurface(int width = 400, int height = 200) {
-  QtSurface surface(width, height);
-  surface.SetFontName("Times New Roman");
-  surface.SetFontSize(12);
+// A surface with its own image, in the book font (a surface is not copied:
+// it may hold a painter on its image).
+std::unique_ptr<QtSurface> BookSurface(int width = 400, int height = 200) {
+  auto surface = std::make_unique<QtSurface>(width, height);
+  surface->SetFontName("Times New Roman");
+  surface->SetFontSize(12);
   return surface;
 }
 
@@ -29,12 +33,14 @@ QRect InkBounds(const QImage& image, QRgb back) {
 }
 
 TEST(QtSurface, TimesNewRomanResolvesToItsMetricTwin) {
-  const QtSurface surface = BookSurface();
+  auto surface_owner = BookSurface();
+  const QtSurface& surface = *surface_owner;
   EXPECT_EQ(QFontInfo(surface.font()).family(), "Liberation Serif");
 }
 
 TEST(QtSurface, WidthsAreTwipsOfTheAdvanceAndAddUpOverARun) {
-  QtSurface surface = BookSurface();
+  auto surface_owner = BookSurface();
+  QtSurface& surface = *surface_owner;
   const QFontMetricsF metrics(surface.font(), &surface.image());
   EXPECT_DOUBLE_EQ(surface.TextWidth("Reader"), metrics.horizontalAdvance("Reader") * 15);
   EXPECT_DOUBLE_EQ(surface.TextHeight("Reader"), metrics.height() * 15);
@@ -45,7 +51,8 @@ TEST(QtSurface, WidthsAreTwipsOfTheAdvanceAndAddUpOverARun) {
 }
 
 TEST(QtSurface, BoldIsWiderThanPlainAndUnderlineChangesNothing) {
-  QtSurface surface = BookSurface();
+  auto surface_owner = BookSurface();
+  QtSurface& surface = *surface_owner;
   const double plain = surface.TextWidth("Hello world");
   surface.SetFontUnderline(true);
   EXPECT_DOUBLE_EQ(surface.TextWidth("Hello world"), plain);
@@ -55,7 +62,8 @@ TEST(QtSurface, BoldIsWiderThanPlainAndUnderlineChangesNothing) {
 }
 
 TEST(QtSurface, FontTablesFromTheSurface) {
-  QtSurface surface = BookSurface();
+  auto surface_owner = BookSurface();
+  QtSurface& surface = *surface_owner;
   clsFontMetrics metrics;
   metrics.MakeArrays(surface);
   EXPECT_TRUE(surface.FontBold());
@@ -68,7 +76,8 @@ TEST(QtSurface, FontTablesFromTheSurface) {
 }
 
 TEST(QtSurface, TextIsDrawnInTheInkColourOnlyWithinItsLine) {
-  QtSurface surface = BookSurface();
+  auto surface_owner = BookSurface();
+  QtSurface& surface = *surface_owner;
   surface.SetBackColor(0x00FFFFFF);
   surface.Clear();
   surface.SetForeColor(0x000000FF);  // red
@@ -96,7 +105,8 @@ TEST(QtSurface, TextIsDrawnInTheInkColourOnlyWithinItsLine) {
 }
 
 TEST(QtSurface, TextIsDrawnTransparently) {
-  QtSurface surface = BookSurface(100, 40);
+  auto surface_owner = BookSurface(100, 40);
+  QtSurface& surface = *surface_owner;
   surface.SetBackColor(0x00008000);  // green
   surface.Clear();
   surface.DrawText("i");
@@ -126,8 +136,10 @@ TEST(QtSurface, GeometryIsInTwipsOfLogicalPixels) {
 }
 
 TEST(QtSurface, DrawingIsDeterministic) {
-  QtSurface first = BookSurface();
-  QtSurface second = BookSurface();
+  auto first_owner = BookSurface();
+  QtSurface& first = *first_owner;
+  auto second_owner = BookSurface();
+  QtSurface& second = *second_owner;
   for (QtSurface* surface : {&first, &second}) {
     surface->Clear();
     surface->SetFontItalic(true);

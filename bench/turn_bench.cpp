@@ -1,0 +1,68 @@
+// A forward page turn in instant mode served from the cache, in the real
+// window (offscreen): two copies out of the higher cache, then the refill
+// of that cache with the next spread, as a reader sees it.
+
+#include <benchmark/benchmark.h>
+
+#if defined(VIREO_BENCH_HAS_QT)
+#include <filesystem>
+#include <fstream>
+
+#include "app/interaction_qt.h"
+#include "app/main_window.h"
+#include "bench_qt.h"
+#include "book/book_maker.h"
+#include "support/logging.h"
+#include "support/vhtml_library.h"
+
+namespace vireo {
+namespace {
+
+std::string Prose(int paragraphs) {
+  std::string text;
+  for (int p = 0; p < paragraphs; ++p) {
+    for (int s = 0; s < 8; ++s) {
+      text += "The reader turns the page and finds the story waiting where it was left. ";
+    }
+    text += "\r\n\r\n";
+  }
+  return text;
+}
+
+void BM_InstantTurnFromCache(benchmark::State& state) {
+  bench::EnsureApplication();
+  TheVHtml().Load(VIREO_BIN_DIR);
+  SetLoggingDisabled(true);
+  const auto folder = std::filesystem::temp_directory_path() / "vireo-turn-bench";
+  std::filesystem::create_directories(folder);
+  qputenv("XDG_DATA_HOME", (folder / "xdg").string().c_str());
+  {
+    std::ofstream settings(folder / "Vireo.ini", std::ios::binary);
+    settings << "INSTANTPAGETURN,True\r\n";
+    std::ofstream book(folder / "Book", std::ios::binary);
+    book << EbookFile(
+        "stub", PackBody(PackableText(Prose(3000), TextEncoding::kWindows1252), "Author", "Title"));
+  }
+  StderrInteraction user;
+  MainWindow window(user, ProgramLocation{folder.string(), (folder / "Book").string()});
+  window.logic().Form_Load();
+  window.show();
+  QCoreApplication::processEvents();
+  frmMain& reader = window.logic();
+  const int last = reader.pages().count - 4;
+  for (auto _ : state) {
+    if (reader.current_page() >= last) {
+      state.PauseTiming();
+      reader.ShowPage(1);
+      state.ResumeTiming();
+    }
+    reader.NextPage();
+  }
+  state.counters["pages"] = reader.pages().count;
+  std::filesystem::remove_all(folder);
+}
+BENCHMARK(BM_InstantTurnFromCache)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace vireo
+#endif
