@@ -80,35 +80,67 @@ const ExpansionTable& Expansions() {
 namespace {
 
 // The expansions packed for the one-pass expansion: up to eight bytes each,
-// written eight at a time.
+// written eight at a time, so that a code costs one load and one store
+// whatever its length.
 struct PackedExpansions {
   std::array<uint64_t, 256> bytes{};
   std::array<uint8_t, 256> length{};
   PackedExpansions() {
     for (int code = 0; code < 256; ++code) {
       const std::string& expansion = Expansions()[code];
-      if (expansion.size() > sizeof(uint64_t)) throw "a word of the table is too long";
+      if (expansion.size() > kExpansionSlack) throw "a word of the table is too long";
       std::memcpy(&bytes[code], expansion.data(), expansion.size());
       length[code] = static_cast<uint8_t>(expansion.size());
     }
   }
 };
 
+const PackedExpansions& Packed() {
+  static const PackedExpansions packed;
+  return packed;
+}
+
 }  // namespace
 
-std::string ExpandWords(std::string_view text) {
-  static const PackedExpansions packed;
+size_t ExpandedLength(std::string_view text) {
+  const std::array<uint8_t, 256>& length = Packed().length;
   const uint8_t* in = reinterpret_cast<const uint8_t*>(text.data());
   const size_t size = text.size();
-  size_t length = 0;
-  for (size_t i = 0; i < size; ++i) length += packed.length[in[i]];
-  // Room for the last eight-byte write.
-  std::string out(length + sizeof(uint64_t), '\0');
-  char* write = out.data();
-  for (size_t i = 0; i < size; ++i) {
-    std::memcpy(write, &packed.bytes[in[i]], sizeof(uint64_t));
-    write += packed.length[in[i]];
+  // Four sums, so the additions do not wait on each other.
+  size_t sums[4] = {0, 0, 0, 0};
+  size_t i = 0;
+  for (; i + 4 <= size; i += 4) {
+    sums[0] += length[in[i]];
+    sums[1] += length[in[i + 1]];
+    sums[2] += length[in[i + 2]];
+    sums[3] += length[in[i + 3]];
   }
+  for (; i < size; ++i) sums[0] += length[in[i]];
+  return sums[0] + sums[1] + sums[2] + sums[3];
+}
+
+char* ExpandInto(std::string_view text, char* out) {
+  const PackedExpansions& packed = Packed();
+  const uint8_t* in = reinterpret_cast<const uint8_t*>(text.data());
+  const size_t size = text.size();
+  size_t i = 0;
+  for (; i + 4 <= size; i += 4) {
+    for (size_t k = 0; k < 4; ++k) {
+      std::memcpy(out, &packed.bytes[in[i + k]], sizeof(uint64_t));
+      out += packed.length[in[i + k]];
+    }
+  }
+  for (; i < size; ++i) {
+    std::memcpy(out, &packed.bytes[in[i]], sizeof(uint64_t));
+    out += packed.length[in[i]];
+  }
+  return out;
+}
+
+std::string ExpandWords(std::string_view text) {
+  const size_t length = ExpandedLength(text);
+  std::string out(length + kExpansionSlack, '\0');
+  ExpandInto(text, out.data());
   out.resize(length);
   return out;
 }
