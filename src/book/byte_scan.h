@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -34,7 +35,12 @@ class ByteSet {
       for (size_t k = 1; k < kCount; ++k) hits |= block == bytes_[k];
       uint64_t halves[2];
       std::memcpy(halves, &hits, sizeof(halves));
-      if ((halves[0] | halves[1]) != 0) break;
+      if ((halves[0] | halves[1]) != 0) {
+        if constexpr (std::endian::native != std::endian::little) break;
+        // A member byte compares to 0xFF; the first one is the lowest.
+        return index + (halves[0] != 0 ? std::countr_zero(halves[0]) / 8
+                                       : 8 + std::countr_zero(halves[1]) / 8);
+      }
       index += sizeof(Block);
     }
 #else

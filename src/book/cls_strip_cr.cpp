@@ -179,9 +179,8 @@ bool CanOpenMatch(char c) {
 // and the steps can run on each window alone.
 class LineEndWindows {
  public:
-  LineEndWindows(std::string_view text, bool reformat) : text_(text), reformat_(reformat) {
-    out_.reserve(text.size() + text.size() / 16);
-  }
+  LineEndWindows(std::string_view text, bool reformat)
+      : text_(text), reformat_(reformat), out_(text, text.size() + text.size() / 16) {}
 
   std::string Run() {
     const size_t size = text_.size();
@@ -209,13 +208,13 @@ class LineEndWindows {
       end = index;
     }
     if (open) Flush(start, end);
-    out_.append(text_, copied_);
-    return std::move(out_);
+    out_.AppendOwn(copied_, text_.size() - copied_);
+    return out_.Take();
   }
 
  private:
   void Flush(size_t start, size_t end) {
-    out_.append(text_, copied_, start - copied_);
+    out_.AppendOwn(copied_, start - copied_);
     copied_ = end + 1;
     const std::string_view window = text_.substr(start, end - start + 1);
     if (window.size() == 2 && FlushPair(window[0], window[1])) return;
@@ -226,12 +225,12 @@ class LineEndWindows {
         LineEndSteps(result, reformat_);
         found = remembered_.emplace(std::string(window), std::move(result)).first;
       }
-      out_.append(found->second);
+      out_.Append(found->second);
       return;
     }
     std::string result(window);
     LineEndSteps(result, reformat_);
-    out_.append(result);
+    out_.Append(result);
   }
 
   // The common windows: one character other than a blank, a line end or a
@@ -241,11 +240,11 @@ class LineEndWindows {
   // double quote nothing changes.
   bool FlushPair(char c, char anchor) {
     if (c == ' ' || c == kCarriageReturn || c == kQuote) return false;
-    out_.push_back(c);
+    out_.Push(c);
     if (anchor == kQuote) {
-      out_.push_back(kQuote);
+      out_.Push(kQuote);
     } else {
-      out_.append(CanOpenMatch(c) || !reformat_ ? ParaMark() : std::string_view(" "));
+      out_.Append(CanOpenMatch(c) || !reformat_ ? ParaMark() : std::string_view(" "));
     }
     return true;
   }
@@ -253,7 +252,7 @@ class LineEndWindows {
   static constexpr size_t kRememberedSize = 24;
   std::string_view text_;
   bool reformat_;
-  std::string out_;
+  StringOutput out_;
   size_t copied_ = 0;
   std::unordered_map<std::string, std::string> remembered_;
 };

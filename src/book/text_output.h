@@ -45,27 +45,48 @@ class InPlaceOutput {
   size_t size_ = 0;
 };
 
-// Writes into a new string, for passes that may grow the text.
+// Writes into a new string, for passes that may grow the text. The string
+// is sized ahead and written through a pointer (growing when a piece does
+// not fit), since a std::string append per piece costs more than the copy.
 class StringOutput {
  public:
   static constexpr bool kCanGrow = true;
   StringOutput(std::string_view source, size_t capacity) : source_(source) {
-    out_.reserve(capacity);
+    out_.resize(capacity);
   }
 
-  void AppendOwn(size_t index, size_t length) { out_.append(source_.data() + index, length); }
-  void Append(std::string_view piece) { out_.append(piece); }
-  void Push(char c) { out_.push_back(c); }
-  void AppendRepeated(size_t count, char c) { out_.append(count, c); }
-  size_t size() const { return out_.size(); }
-  std::string_view view() const { return out_; }
-  char& back() { return out_.back(); }
-  void Shrink(size_t length) { out_.resize(out_.size() - length); }
-  std::string Take() { return std::move(out_); }
+  void AppendOwn(size_t index, size_t length) { Append(source_.substr(index, length)); }
+  void Append(std::string_view piece) {
+    std::memcpy(Room(piece.size()), piece.data(), piece.size());
+    size_ += piece.size();
+  }
+  void Push(char c) {
+    *Room(1) = c;
+    ++size_;
+  }
+  void AppendRepeated(size_t count, char c) {
+    std::memset(Room(count), c, count);
+    size_ += count;
+  }
+  size_t size() const { return size_; }
+  std::string_view view() const { return std::string_view(out_.data(), size_); }
+  char& back() { return out_[size_ - 1]; }
+  void Shrink(size_t length) { size_ -= length; }
+  std::string Take() {
+    out_.resize(size_);
+    return std::move(out_);
+  }
 
  private:
+  // Where the next length characters go, after growing if need be.
+  char* Room(size_t length) {
+    if (out_.size() - size_ < length) out_.resize(2 * out_.size() + length);
+    return out_.data() + size_;
+  }
+
   std::string_view source_;
   std::string out_;
+  size_t size_ = 0;
 };
 
 }  // namespace vireo
