@@ -72,8 +72,7 @@ void BM_UnpackOnly(benchmark::State& state) {
   for (auto _ : state) {
     clsBIN bin;
     bin.set_body(book.body);
-    bin.DecodeBin();
-    bin.BrnPostExtract();
+    bin.DecodeAndExtract();
     benchmark::DoNotOptimize(bin.body().data());
   }
   state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * book.text.size()));

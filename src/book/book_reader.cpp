@@ -53,8 +53,12 @@ std::string RecordLoadError() {
 
 void FinishText(clsBIN& bin, BookReadResult& result) {
   result.text = bin.TakeResultText();
-  HtmlToChar(result.text);
-  HtmlConstToChar(result.text);
+  // Every reference starts with "&", and neither conversion makes one out
+  // of nothing: a text without one (most books) is left after one scan.
+  if (result.text.find('&') != std::string::npos) {
+    HtmlToChar(result.text);
+    HtmlConstToChar(result.text);
+  }
   result.author = bin.details().author;
   result.stored_title = bin.details().title;
   result.has_book = true;

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "book/cls_strip_cr.h"
+#include "book/reading_order.h"
 #include "book/scrambling.h"
 #include "book/word_table.h"
 #include "support/error_trap.h"
@@ -15,11 +16,8 @@ namespace vireo {
 namespace {
 
 constexpr std::string_view kModule = "clsBIN";
-constexpr char kSectionMark = '\xA9';           // 169
 constexpr char kParagraphPlaceholder = '\xC8';  // 200
 constexpr char kBflFlag = '\xFA';               // 250
-constexpr size_t kLeadInLength = 2000;
-constexpr size_t kTrailerLength = 2000;
 constexpr size_t kBflHeaderLength = 1000;
 constexpr int kBflHeaderOffset = 50;
 constexpr int kProgressMaximum = 100;
@@ -95,9 +93,8 @@ void clsBIN::ConvertLoadedBRN() {
   Trap("sub convertloadedbrn", kModule, [&] {
     book_folder_ = ProgramFolder() + kSeparator;
     Progress("Unpacking", 30);
-    DecodeBin();
+    DecodeAndExtract();
     Progress("Reformatting Text", 50);
-    BrnPostExtract();
     DecodeDetails();
     Progress("Finishing", 80);
     FinalPass();
@@ -113,9 +110,8 @@ void clsBIN::ConvertAndLoadBRN(const std::string& path) {
     Progress("Reading BRN file", 20);
     ReadBin(path);
     Progress("Unpacking", 30);
-    DecodeBin();
+    DecodeAndExtract();
     Progress("Reformatting Text", 60);
-    BrnPostExtract();
     DecodeDetails();
     Progress("Finishing", 80);
     FinalPass();
@@ -170,6 +166,29 @@ void clsBIN::DecodeBin() {
     Descramble(body_);
     body_ = ExpandWords(body_);
   });
+}
+
+void clsBIN::DecodeAndExtract() {
+  bool descrambled = false;
+  Trap("sub decodebin", kModule, [&] {
+    SetupWords();  // the table is constant; Expansions() holds it composed
+    Descramble(body_);
+    descrambled = true;
+  });
+  if (descrambled) {
+    std::optional<ExtractedBook> book;
+    Trap("sub decodebin", kModule, [&] {
+      book = ExpandInReadingOrder(body_);
+      if (!book) body_ = ExpandWords(body_);
+    });
+    if (book) {
+      body_ = std::move(book->text);
+      detail_block_ = std::move(book->detail_block);
+      header_block_.clear();
+      return;
+    }
+  }
+  BrnPostExtract();
 }
 
 void clsBIN::BrnPostExtract() {

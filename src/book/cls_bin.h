@@ -45,9 +45,14 @@ class clsBIN {
   bool CheckForBflHeader();               // recognises and strips a BFL header
   void DecodeBin();                       // descrambles and expands the words
   void BrnPostExtract();                  // lead-in, trailer, details, order
-  void DecodeDetails();                   // the detail block into the details
-  void FinalPass();                       // reformatting and placeholders 200
-  void ParseImages(std::string& text);    // picture references
+  // DecodeBin then BrnPostExtract, as the conversions run them: the words
+  // are expanded straight into reading order when the body has the usual
+  // shape (no expanded body in stored order is built); otherwise the two
+  // stages run in turn, with their own error handling.
+  void DecodeAndExtract();
+  void DecodeDetails();                 // the detail block into the details
+  void FinalPass();                     // reformatting and placeholders 200
+  void ParseImages(std::string& text);  // picture references
 
   void set_header_block(std::string header_block) { header_block_ = std::move(header_block); }
   void set_body(std::string body) { body_ = std::move(body); }

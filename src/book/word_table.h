@@ -30,6 +30,15 @@ const ExpansionTable& Expansions();
 // every code of row 48, then row 47, ... then row 1 in turn).
 std::string ExpandWords(std::string_view text);
 
+// The building blocks of ExpandWords, for expanding straight into a buffer
+// that the caller has sized: the expanded length of text, and the expansion
+// written at out (returns the end of what it wrote). ExpandInto may write up
+// to kExpansionSlack bytes beyond the returned end, which the buffer must
+// hold; later writes overwrite them.
+inline constexpr size_t kExpansionSlack = 8;
+size_t ExpandedLength(std::string_view text);
+char* ExpandInto(std::string_view text, char* out);
+
 // Contracts text for packing: every word of row 1, then row 2, ... row 48 is
 // replaced by its code, left to right. ExpandWords(ContractWords(t)) == t for
 // every t free of the codes 179-188 and 201-236.
