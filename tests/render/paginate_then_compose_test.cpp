@@ -1,0 +1,82 @@
+// A cross-check of the two layouts: every page the paginator cuts, composed
+// by the page composer, fills at most the page's lines.
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "book/cls_strip_cr.h"
+#include "book/random_text.h"
+#include "fake_surface.h"
+#include "layout/pagination_fixtures.h"
+#include "layout/reindex.h"
+#include "render/print_page.h"
+#include "support/user_interaction.h"
+
+namespace vireo {
+namespace {
+
+class NoPump : public MessagePump {
+ public:
+  void Yield() override {}
+  void SleepMilliseconds(int) override {}
+};
+
+// Proportional widths: narrow i and l, wide m and w, capitals wider.
+clsFontMetrics ProportionalMetrics() {
+  std::array<double, clsFontMetrics::kTableSize> widths{};
+  for (int code = 1; code <= clsFontMetrics::kTableSize; ++code) {
+    double width = 100;
+    if (code == 'i' || code == 'l' || code == '.' || code == ',' || code == '\'') width = 45;
+    if (code == 'm' || code == 'w') width = 150;
+    if (code >= 'A' && code <= 'Z') width = 130;
+    if (code == ' ') width = 50;
+    widths[code - 1] = code == 10 ? 0 : width;
+  }
+  clsFontMetrics metrics;
+  for (bool bold : {false, true}) {
+    for (bool italic : {false, true}) {
+      auto styled = widths;
+      for (double& w : styled) w *= bold ? 1.1 : 1.0;
+      metrics.SetTable(bold, italic, styled);
+    }
+  }
+  return metrics;
+}
+
+TEST(PaginateThenCompose, EveryPageFitsItsLines) {
+  std::mt19937 random(2024);
+  const clsFontMetrics metrics = ProportionalMetrics();
+  NoPump pump;
+  for (int book = 0; book < 6; ++book) {
+    std::string text = test::ProseLikeText(random, 60'000);
+    clsStripCR::ReplaceKnownChar(text, FormattingOptions{});
+    const double line_width = 3000 + 700 * book;
+    const int16_t lines_per_page = static_cast<int16_t>(12 + 5 * book);
+    clsReindex paginator;
+    paginator.FontMetrics() = metrics;
+    paginator.SetMessagePump(&pump);
+    PageIndex pages;
+    paginator.NewReindexFile(text, InsertMode::kAllowed, pages, 0, line_width, lines_per_page, 240);
+    ASSERT_GT(pages.count, 3);
+
+    clsPrintPage composer(pump);
+    test::FakeSurface surface;
+    for (int page = 1; page < pages.count; ++page) {
+      PageSettings settings;
+      const int32_t start = pages.PageStart(page);
+      settings.page_text = text.substr(start - 1, pages.PageStart(page + 1) - start);
+      settings.bold = pages.Bold(page);
+      settings.italic = pages.Italic(page);
+      settings.underline = pages.Underline(page);
+      settings.line_width = line_width;
+      settings.lines_per_page = lines_per_page;
+      composer.StoreSentences(settings, metrics);
+      EXPECT_LE(composer.lines().size(), static_cast<size_t>(lines_per_page))
+          << "book " << book << ", page " << page;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace vireo
