@@ -101,7 +101,9 @@ int RunRender(const Arguments& arguments) {
 }
 
 // Records every drawn step of one animated forward turn from the given page
-// as OUT/frame-NNN.png (frame-000 is the spread before the turn).
+// as OUT/frame-NNN.png: the spread before the turn, the window at every
+// pause of the animation (each drawn step is followed by one), and the
+// spread after it.
 int RunSweep(const Arguments& arguments) {
   RenderRequest request;
   if (!ParseRender(arguments, request) || request.single) {
@@ -123,9 +125,10 @@ int RunSweep(const Arguments& arguments) {
   };
   record();
   window.logic().preferences().instant_page_turn = false;
-  window.canvas().SetFrameRecorder(record);
+  window.pump().SetPauseObserver(record);
   window.logic().NextPage();
-  window.canvas().SetFrameRecorder(nullptr);
+  window.pump().SetPauseObserver(nullptr);
+  record();
   if (!written) return Fail("cannot write the frames into " + request.output);
   std::printf("%d frames in %s\n", frame, request.output.c_str());
   return 0;

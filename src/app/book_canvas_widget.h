@@ -4,7 +4,6 @@
 #include <QImage>
 #include <QWidget>
 #include <array>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -55,10 +54,6 @@ class BookCanvasWidget : public QWidget {
   // Repaints the box's frame at once when the box is on show.
   void RefreshBox(int box);
 
-  // Called after every repaint of a box on show (tools record the frames of
-  // a page turn with it); empty: nothing is called.
-  void SetFrameRecorder(std::function<void()> recorder) { recorder_ = std::move(recorder); }
-
   // A translucent band over lines of a page (page -1: none), in twips from
   // the page's top.
   void SetMarker(int page, double top, double bottom);
@@ -99,7 +94,6 @@ class BookCanvasWidget : public QWidget {
   std::array<BoxPlace, 8> boxes_;
   std::array<std::vector<int>, 2> stacking_;  // bottom to top, per frame
   int pressed_page_ = -1;
-  std::function<void()> recorder_;
   int marker_page_ = -1;
   double marker_top_ = 0;
   double marker_bottom_ = 0;

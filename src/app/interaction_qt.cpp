@@ -92,6 +92,7 @@ void QtMessagePump::Yield() {
 }
 
 void QtMessagePump::SleepMilliseconds(int milliseconds) {
+  if (pause_observer_) pause_observer_();
   if (milliseconds > 0) QThread::msleep(static_cast<unsigned long>(milliseconds));
 }
 

@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 #include <QWidget>
+#include <functional>
 
 #include "support/user_interaction.h"
 
@@ -37,9 +38,14 @@ class QtMessagePump : public MessagePump {
   static constexpr qint64 kYieldIntervalMs = 4;
   void Yield() override;
   void SleepMilliseconds(int milliseconds) override;
+  // Called before every pause: what is on screen then is what the reader
+  // sees for the length of the pause (tools record the frames of a page
+  // turn with it). Empty: nothing is called.
+  void SetPauseObserver(std::function<void()> observer) { pause_observer_ = std::move(observer); }
 
  private:
   QElapsedTimer since_last_yield_;
+  std::function<void()> pause_observer_;
 };
 
 // True when VIREO_NONINTERACTIVE is set to anything but "" or "0".

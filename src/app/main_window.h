@@ -24,6 +24,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   ~MainWindow() override;
 
   frmMain& logic() { return logic_; }
+  QtMessagePump& pump() { return pump_; }
   BookCanvasWidget& canvas() { return *canvas_; }
   ControlBarWidget& bar() { return *bar_; }
   OptionsMenu& menu() { return *menu_; }

@@ -6,6 +6,7 @@
 
 #include "app/main_window.h"
 #include "app/reader_window_fixture.h"
+#include "support/logging.h"
 
 namespace vireo {
 namespace {
@@ -55,12 +56,14 @@ TEST(TurningWithTheMouse, AnAnimatedTurnDrawsItsStepsAndEndsOnTheNextSpread) {
   test::ReaderWindow reader(test::SampleProse(40), "PAGESWEEPWIDTH,600\r\n");
   reader.Start();
   int frames = 0;
-  reader.window().canvas().SetFrameRecorder([&] { ++frames; });
+  reader.window().pump().SetPauseObserver([&] { ++frames; });
   ClickPage(reader, kRightFrame);
-  reader.window().canvas().SetFrameRecorder(nullptr);
+  reader.window().pump().SetPauseObserver(nullptr);
   EXPECT_EQ(RightPageShown(reader), 4);
   EXPECT_GT(frames, 8) << "the sweep is drawn step by step";
   EXPECT_FALSE(reader.window().canvas().BoxVisible(kRightWorkBox)) << "work boxes hidden again";
+  EXPECT_EQ(reader.window().bar().Shape1->colour(), LampColour(Lamp::kGrey)) << "idle again";
+  EXPECT_EQ(Actions().position, 0) << Actions().text[1];
 }
 
 }  // namespace
