@@ -92,8 +92,9 @@ class QtSurface : public Surface {
  private:
   struct GlyphTable {
     QRawFont raw;
-    std::array<quint32, 256> glyphs{};
-    std::array<qreal, 256> advances{};  // logical pixels
+    // Filled whole when the table is made.
+    std::array<quint32, 256> glyphs;
+    std::array<qreal, 256> advances;  // logical pixels
   };
   void FontChanged();
   void FaceChanged();
