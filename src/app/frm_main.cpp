@@ -160,7 +160,9 @@ void frmMain::LoadPaperTextures() {
 
 void frmMain::Quit() {
   Trap("sub quit", kModule, [&] {
-    if (busy_) return;
+    // The window is busy while it starts, while a font change is applied and
+    // while the book is paginated; closing then would cut the work short.
+    if (busy_ || font_guard_ || reindex_.Busy()) return;
     StoreSettings();
     ClosingRoutine();
   });
