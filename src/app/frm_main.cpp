@@ -118,6 +118,7 @@ void frmMain::RunStartupSteps() {
     view_.SetSplashStatus("Reading settings");
     LogAction("Reading settings");
     ReadSettings(prefs_, *this, system_colours_);
+    view_.SetBarVisible(!prefs_.bar_hidden);
     SyncTurnSettings();
     reading_.mode = prefs_.single_page_mode ? PageMode::kSingle : PageMode::kDouble;
     for (int box = 0; box < kBoxCount; ++box) plotter_.SetTexture(box);
