@@ -118,6 +118,7 @@ void frmMain::RunStartupSteps() {
     view_.SetSplashStatus("Reading settings");
     LogAction("Reading settings");
     ReadSettings(prefs_, *this, system_colours_);
+    view_.SetBarVisible(!prefs_.bar_hidden);
     SyncTurnSettings();
     reading_.mode = prefs_.single_page_mode ? PageMode::kSingle : PageMode::kDouble;
     for (int box = 0; box < kBoxCount; ++box) plotter_.SetTexture(box);
@@ -160,7 +161,9 @@ void frmMain::LoadPaperTextures() {
 
 void frmMain::Quit() {
   Trap("sub quit", kModule, [&] {
-    if (busy_) return;
+    // The window is busy while it starts, while a font change is applied and
+    // while the book is paginated; closing then would cut the work short.
+    if (busy_ || font_guard_ || reindex_.Busy()) return;
     StoreSettings();
     ClosingRoutine();
   });

@@ -44,7 +44,8 @@ class frmMain : public LoadFileHost,
   // (the helper library is missing); the message has been shown then.
   bool Form_Load();
 
-  // Exit: stores the preferences and closes, unless the window is busy.
+  // Exit: stores the preferences and closes, unless the window is busy
+  // (starting, applying a font change or paginating).
   void Quit();
   // A close from the title bar: returns true to refuse it.
   bool Form_QueryUnload(bool closed_by_user);

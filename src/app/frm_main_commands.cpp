@@ -245,7 +245,11 @@ void frmMain::mnuErasefile_Click() {
     const std::string question = GetTranslation("Do you really want to erase") + " " + book_path_ +
                                  " " + GetTranslation("from your hard disk?");
     if (!user_.AskYesNo(question, "Vireo")) return;
-    if (std::remove(book_path_.c_str()) != 0) throw RuntimeError(ErrorNumber::kPathFileAccess);
+    // A file that cannot be deleted is logged, and the book is closed all
+    // the same, as the handler goes on with its next statement.
+    Trap("sub mnuerasefile_click", kModule, [&] {
+      if (std::remove(book_path_.c_str()) != 0) throw RuntimeError(ErrorNumber::kPathFileAccess);
+    });
     book_loaded_ = false;
     SetCaption("Vireo");
     DrawTitlePage();

@@ -1,11 +1,15 @@
 #include <QApplication>
+#include <QKeyEvent>
 #include <QSocketNotifier>
 #include <QTimer>
 
+#include <cctype>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 #include <memory>
+#include <string>
 
 #include "app/interaction_qt.h"
 #include "app/main_window.h"
@@ -47,8 +51,28 @@ int EnvironmentNumber(const char* name) {
   return value == nullptr ? -1 : std::atoi(value);
 }
 
+// VIREO_KEYS=TEXT: each character in turn is pressed and released on the
+// window as a person would type it (a blank is Space, letters and digits are
+// their keys), each handled in full before the next; then `then` runs.
+void PressKeys(vireo::MainWindow& window, std::string keys, std::function<void()> then) {
+  if (keys.empty()) {
+    then();
+    return;
+  }
+  QTimer::singleShot(0, &window, [&window, keys, then] {
+    const unsigned char typed = static_cast<unsigned char>(keys.front());
+    const int key = typed == ' ' ? Qt::Key_Space : std::toupper(typed);
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      QKeyEvent event(type, key, Qt::NoModifier, QString(QChar(typed)));
+      QCoreApplication::sendEvent(&window, &event);
+    }
+    PressKeys(window, keys.substr(1), then);
+  });
+}
+
 // VIREO_SCREENSHOT=FILE.png: once started, save the window as a picture,
 // print its path and quit. VIREO_QUIT_AFTER_MS=N: quit N ms after start-up.
+// Both count from the end of the VIREO_KEYS.
 void ScheduleAutomation(vireo::MainWindow& window) {
   if (const char* shot = std::getenv("VIREO_SCREENSHOT"); shot != nullptr && *shot != '\0') {
     const QString path = QString::fromLocal8Bit(shot);
@@ -82,7 +106,8 @@ int main(int argc, char* argv[]) {
   if (!window.logic().Form_Load()) return 1;
   window.show();
   QuitOnSignals(window);
-  ScheduleAutomation(window);
+  const char* keys = std::getenv("VIREO_KEYS");
+  PressKeys(window, keys != nullptr ? keys : "", [&window] { ScheduleAutomation(window); });
   const int status = application.exec();
   return window.end_status() >= 0 ? window.end_status() : status;
 }

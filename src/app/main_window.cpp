@@ -279,10 +279,11 @@ WindowSize MainWindow::ScreenSize() const {
   return {size.width() * kTwipsPerPixel, size.height() * kTwipsPerPixel};
 }
 
-WindowSize MainWindow::WindowOuterSize() const {
-  const QSize size = frameGeometry().size();
-  return {size.width() * kTwipsPerPixel, size.height() * kTwipsPerPixel};
-}
+// The size the preferences keep and the commands enforce is the client size.
+// Qt learns the frame only once the window is on screen (on X11 once the
+// window manager has framed it), so a frame-inclusive size stored at exit and
+// set before the next start-up's show would grow by the frame at every run.
+WindowSize MainWindow::WindowOuterSize() const { return WindowInnerSize(); }
 
 WindowSize MainWindow::WindowInnerSize() const {
   // The book view fills the window; before the window is first shown its
@@ -291,15 +292,9 @@ WindowSize MainWindow::WindowInnerSize() const {
   return {size.width() * kTwipsPerPixel, size.height() * kTwipsPerPixel};
 }
 
-void MainWindow::SetWindowWidth(double twips) {
-  const int frame = frameGeometry().width() - width();
-  resize(std::max(1, Pixels(twips) - frame), height());
-}
+void MainWindow::SetWindowWidth(double twips) { resize(std::max(1, Pixels(twips)), height()); }
 
-void MainWindow::SetWindowHeight(double twips) {
-  const int frame = frameGeometry().height() - height();
-  resize(width(), std::max(1, Pixels(twips) - frame));
-}
+void MainWindow::SetWindowHeight(double twips) { resize(width(), std::max(1, Pixels(twips))); }
 
 void MainWindow::MaximiseWindow() { showMaximized(); }
 void MainWindow::RestoreWindow() { showNormal(); }

@@ -44,8 +44,10 @@ class MainWindowView {
   // The system's button-text colour, for the page label at rest.
   virtual uint32_t SystemButtonTextColour() = 0;
   virtual WindowSize ScreenSize() const = 0;
-  // The window's outer size, and its inner (client) size that the book view
-  // is laid out in.
+  // The window's size as the preferences keep it and the commands enforce
+  // it, and its inner (client) size that the book view is laid out in. A
+  // window system that cannot know its frame before the window is shown
+  // gives the client size for both, so that stored sizes do not drift.
   virtual WindowSize WindowOuterSize() const = 0;
   virtual WindowSize WindowInnerSize() const = 0;
   virtual void SetWindowWidth(double twips) = 0;

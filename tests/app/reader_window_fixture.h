@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QImage>
+#include <QTimer>
 #include <memory>
 #include <string>
 
@@ -43,6 +44,7 @@ class ReaderWindow {
     window_ = std::make_unique<MainWindow>(user_, ProgramLocation{folder_.str(), book_});
   }
   ~ReaderWindow() {
+    ClearQuit();
     window_.reset();
     SetLogFolder("");
     ResetGlobalSettings();
@@ -55,12 +57,31 @@ class ReaderWindow {
     QApplication::processEvents();
   }
 
+  // A second run of the program in the same folder: the window is dropped
+  // (after Exit, or as if the program had been killed) and a new one starts.
+  void Restart() {
+    ClearQuit();
+    window_.reset();
+    ResetGlobalSettings();
+    window_ = std::make_unique<MainWindow>(user_, ProgramLocation{folder_.str(), book_});
+    Start();
+  }
+
   MainWindow& window() { return *window_; }
   frmMain& logic() { return window_->logic(); }
   const TempFolder& folder() const { return folder_; }
   FakeUser& user() { return user_; }
 
  private:
+  // Exit ends the application's event loop; with none running, Qt then
+  // refuses every later loop (a modal dialog's too). A short run of the
+  // application's own loop clears that for the tests that follow.
+  void ClearQuit() {
+    if (!window_ || window_->end_status() < 0) return;
+    QTimer::singleShot(0, [] { QCoreApplication::exit(0); });
+    QCoreApplication::exec();
+  }
+
   TempFolder folder_;
   std::string book_;
   FakeUser user_;

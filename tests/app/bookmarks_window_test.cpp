@@ -1,0 +1,102 @@
+// Reading positions on the real window: kept across runs, shared by copies
+// of a book, erased on request.
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "app/main_window.h"
+#include "app/window_driving.h"
+#include "book/book_maker.h"
+#include "nav/bookmarks.h"
+
+namespace vireo {
+namespace {
+
+using test::Press;
+
+constexpr const char* kInstant = "INSTANTPAGETURN,True\r\n";
+
+// An ebook at path (its folder made if need be) holding text.
+void WriteEbook(const std::string& path, const std::string& text) {
+  std::filesystem::create_directories(std::filesystem::path(path).parent_path());
+  const std::string body =
+      PackBody(PackableText(text, TextEncoding::kWindows1252), "Author", "Title");
+  test::WriteFile(path, EbookFile("stub program", body));
+}
+
+void Turn(test::ReaderWindow& reader, int spreads) {
+  for (int turn = 0; turn < spreads; ++turn) Press(reader, Qt::Key_Space);
+}
+
+TEST(BookmarksWindow, ARestartOpensWhereTheReaderLeftWithTheSameWindow) {
+  test::ReaderWindow reader(test::SampleProse(80), kInstant);
+  reader.Start();
+  Turn(reader, 3);
+  ASSERT_EQ(reader.logic().current_page(), 8);
+  Press(reader, Qt::Key_B);
+  const int page = reader.logic().current_page();
+  const QImage left_page = test::BoxPicture(reader, kLeftPageBox);
+  const WindowSize size = reader.window().WindowOuterSize();
+  Press(reader, Qt::Key_Q);
+  ASSERT_EQ(reader.window().end_status(), 0);
+
+  reader.Restart();
+  EXPECT_EQ(reader.logic().current_page(), page);
+  EXPECT_EQ(test::BoxPicture(reader, kLeftPageBox), left_page);
+  EXPECT_FALSE(reader.window().bar().isVisible()) << "the bar stays hidden";
+  EXPECT_EQ(reader.window().WindowOuterSize(), size) << "the window keeps its size";
+}
+
+TEST(BookmarksWindow, CopiesOfABookInTwoFoldersShareOnePosition) {
+  test::ReaderWindow reader(test::SampleProse(20), kInstant);
+  reader.Start();
+  const std::string first = reader.folder().File("first/Story.htm");
+  const std::string second = reader.folder().File("second/Story.htm");
+  WriteEbook(first, test::SampleProse(80));
+  WriteEbook(second, test::SampleProse(80));
+  ASSERT_TRUE(test::DropFile(reader, first));
+  EXPECT_EQ(reader.window().windowTitle(), "Story.htm");
+  EXPECT_EQ(reader.logic().current_page(), 2) << "a book shown for the first time";
+  Turn(reader, 2);
+  ASSERT_EQ(reader.logic().current_page(), 6);
+
+  ASSERT_TRUE(test::DropFile(reader, second));
+  EXPECT_EQ(reader.logic().book_path(), second);
+  EXPECT_EQ(reader.logic().current_page(), 6) << "the copy opens where the first was left";
+}
+
+TEST(BookmarksWindow, ErasingForgetsTheOtherBooksButExitStoresTheOneOnShow) {
+  test::ReaderWindow reader(test::SampleProse(80), kInstant);
+  reader.Start();
+  Turn(reader, 3);
+  const std::string story = reader.folder().File("shelf/Story.htm");
+  WriteEbook(story, test::SampleProse(80));
+  ASSERT_TRUE(test::DropFile(reader, story));
+  Turn(reader, 2);
+  ASSERT_EQ(reader.logic().current_page(), 6);
+  const std::string book = reader.folder().File("Book");
+  ASSERT_GT(RetrieveBookmark(book), 0) << "stored when the story was dropped";
+
+  test::Trigger(reader, "mnuEraseBookmarks");
+  EXPECT_EQ(reader.user().messages.back(),
+            "This will erase bookmarks for all files. Are you sure?");
+  EXPECT_GT(RetrieveBookmark(book), 0) << "No erases nothing";
+  reader.user().yes = true;
+  test::Trigger(reader, "mnuEraseBookmarks");
+  EXPECT_EQ(RetrieveBookmark(book), 0);
+  EXPECT_EQ(RetrieveBookmark(story), 0);
+
+  Press(reader, Qt::Key_Q);
+  const std::string saved = test::ReadFile(reader.folder().File("BookMarks.ini"));
+  EXPECT_EQ(saved.find("BOOK,"), std::string::npos) << saved;
+  EXPECT_NE(saved.find("STORY.HTM,"), std::string::npos) << "Exit stores the book on show";
+
+  reader.Restart();
+  EXPECT_EQ(reader.logic().current_page(), 2) << "the erased book starts at the beginning";
+  ASSERT_TRUE(test::DropFile(reader, story));
+  EXPECT_EQ(reader.logic().current_page(), 6);
+}
+
+}  // namespace
+}  // namespace vireo
