@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -245,6 +246,7 @@ class frmMain : public LoadFileHost,
   std::string search_term_;
   std::string page_label_;
   int32_t page_label_count_ = -1;
+  std::chrono::steady_clock::time_point last_progress_yield_;
   uint32_t page_label_colour_ = 0;
   std::string loading_path_;
 

@@ -1,6 +1,7 @@
 // The main window's book: loading, pagination and its events, bookmarks.
 
 #include <algorithm>
+#include <chrono>
 
 #include "app/frm_main.h"
 #include "nav/bookmarks.h"
@@ -16,6 +17,7 @@ namespace {
 constexpr std::string_view kModule = "frmMain";
 constexpr std::string_view kReindexingMark = " - Reindexing...";
 constexpr uint32_t kRed = 255;
+constexpr std::chrono::milliseconds kProgressYieldInterval{4};
 
 std::string WithoutReindexingMark(std::string caption) {
   for (size_t at = caption.find(kReindexingMark); at != std::string::npos;
@@ -124,10 +126,18 @@ void frmMain::ReindexFile(bool keep_position) {
   });
 }
 
+// Raised after every word while the count sits on a multiple of 25: running
+// the event loop costs far more than a word, so within a few milliseconds of
+// the last time, with nothing new to show, the yield is left out.
 void frmMain::CurrentPage(int32_t page_count) {
   Trap("sub creindex_currentpage", kModule, [&] {
+    const bool changed = page_count != page_label_count_;
     ShowPageCount(page_count, kRed);
-    pump_.Yield();
+    const auto now = std::chrono::steady_clock::now();
+    if (changed || now - last_progress_yield_ >= kProgressYieldInterval) {
+      pump_.Yield();
+      last_progress_yield_ = now;
+    }
   });
 }
 

@@ -81,15 +81,7 @@ bool StderrInteraction::AskYesNo(std::string_view question, std::string_view tit
   return false;
 }
 
-// Running the event loop costs far more than laying out a word, and the
-// paginator yields after every word while its page count sits on a multiple
-// of 25: within a few milliseconds of the last yield nothing new can have
-// arrived worth the cost, so such a yield is skipped.
-void QtMessagePump::Yield() {
-  if (since_last_yield_.isValid() && since_last_yield_.elapsed() < kYieldIntervalMs) return;
-  QCoreApplication::processEvents();
-  since_last_yield_.start();
-}
+void QtMessagePump::Yield() { QCoreApplication::processEvents(); }
 
 void QtMessagePump::SleepMilliseconds(int milliseconds) {
   if (pause_observer_) pause_observer_();

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QWidget>
 #include <functional>
 
@@ -35,7 +34,6 @@ class StderrInteraction : public UserInteraction {
 // The Qt event loop as the core's message pump.
 class QtMessagePump : public MessagePump {
  public:
-  static constexpr qint64 kYieldIntervalMs = 4;
   void Yield() override;
   void SleepMilliseconds(int milliseconds) override;
   // Called before every pause: what is on screen then is what the reader
@@ -44,7 +42,6 @@ class QtMessagePump : public MessagePump {
   void SetPauseObserver(std::function<void()> observer) { pause_observer_ = std::move(observer); }
 
  private:
-  QElapsedTimer since_last_yield_;
   std::function<void()> pause_observer_;
 };
 
