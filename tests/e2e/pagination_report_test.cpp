@@ -1,0 +1,59 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <regex>
+#include <sstream>
+
+#include "e2e/program_runner.h"
+
+namespace vireo {
+namespace {
+
+// Checks a `vireo-tool pages` report: one line "page start bold italic
+// underline" per page, numbered from 1 with starts that grow, then "passed".
+void ExpectReport(const std::string& report, int minimum_pages) {
+  std::istringstream lines(report);
+  std::string line;
+  const std::regex page_line(R"((\d+) (\d+) ([01]) ([01]) ([01]))");
+  int expected_page = 1;
+  long previous_start = 0;
+  while (std::getline(lines, line) && line.rfind("passed", 0) != 0) {
+    std::smatch match;
+    ASSERT_TRUE(std::regex_match(line, match, page_line)) << line;
+    EXPECT_EQ(std::stoi(match[1]), expected_page++);
+    EXPECT_GT(std::stol(match[2]), previous_start) << line;
+    previous_start = std::stol(match[2]);
+  }
+  EXPECT_GT(expected_page - 1, minimum_pages);
+  EXPECT_TRUE(std::regex_match(line, std::regex("passed (\\d+|end)"))) << line;
+}
+
+TEST(PaginationReport, TheSampleBookWithAMetricsFileAndWithARealFont) {
+  const std::string book = test::BinFolder() + "/Genesis";
+  if (!std::filesystem::exists(book)) GTEST_SKIP() << "no sample book built";
+  test::TempFolder scratch;
+  std::string metrics;
+  for (int style = 0; style < 4; ++style) {
+    for (int code = 1; code <= 255; ++code) metrics += (code == 10 ? "0" : "95") + std::string(" ");
+    metrics += "\n";
+  }
+  test::WriteFile(scratch.File("metrics.txt"), metrics);
+  const std::string tool = test::BinFolder() + "/vireo-tool pages " + book +
+                           " --line-width 6000 --lines-per-page 30 --position 20000 ";
+  const auto with_metrics =
+      test::Run(tool + "--metrics " + scratch.File("metrics.txt"), {}, scratch);
+  ASSERT_EQ(with_metrics.status, 0) << with_metrics.err;
+  ExpectReport(with_metrics.out, 50);
+  EXPECT_THAT(with_metrics.out, testing::Not(testing::HasSubstr("passed end")))
+      << "a reader well inside a long book is passed before the end";
+
+  const auto with_font =
+      test::Run(tool + "--font 'Times New Roman' --size 10",
+                {"QT_QPA_PLATFORM=offscreen", "XDG_RUNTIME_DIR=" + scratch.str()}, scratch);
+  ASSERT_EQ(with_font.status, 0) << with_font.err;
+  ExpectReport(with_font.out, 50);
+  EXPECT_NE(with_font.out, with_metrics.out) << "a real font measures differently";
+}
+
+}  // namespace
+}  // namespace vireo
