@@ -89,6 +89,16 @@ void clsBIN::Progress(std::string_view caption, int value) {
   if (progress_) progress_(GetTranslation(caption), value, kProgressMaximum);
 }
 
+// The common end of every conversion: reformatting, pictures, and the body
+// handed over as the result.
+void clsBIN::Finish(int progress) {
+  Progress("Finishing", progress);
+  FinalPass();
+  ParseImages(body_);
+  result_text_ = std::move(body_);
+  body_.clear();
+}
+
 void clsBIN::ConvertLoadedBRN() {
   Trap("sub convertloadedbrn", kModule, [&] {
     book_folder_ = ProgramFolder() + kSeparator;
@@ -96,11 +106,7 @@ void clsBIN::ConvertLoadedBRN() {
     DecodeAndExtract();
     Progress("Reformatting Text", 50);
     DecodeDetails();
-    Progress("Finishing", 80);
-    FinalPass();
-    ParseImages(body_);
-    result_text_ = std::move(body_);
-    body_.clear();
+    Finish(80);
   });
 }
 
@@ -113,11 +119,7 @@ void clsBIN::ConvertAndLoadBRN(const std::string& path) {
     DecodeAndExtract();
     Progress("Reformatting Text", 60);
     DecodeDetails();
-    Progress("Finishing", 80);
-    FinalPass();
-    ParseImages(body_);
-    result_text_ = std::move(body_);
-    body_.clear();
+    Finish(80);
   });
 }
 
@@ -130,11 +132,7 @@ void clsBIN::ConvertAndLoadBFL(const std::string& path) {
     if (CheckForBflHeader()) DecodeDetails();
     DecodeBin();
     Progress("Reformatting Text", 70);
-    Progress("Finishing", 90);
-    FinalPass();
-    ParseImages(body_);
-    result_text_ = std::move(body_);
-    body_.clear();
+    Finish(90);
   });
 }
 

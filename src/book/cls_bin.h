@@ -66,6 +66,7 @@ class clsBIN {
   std::string TakeResultText() { return std::move(result_text_); }
 
  private:
+  void Finish(int progress);
   void Progress(std::string_view caption, int value);
 
   FormattingOptions options_;
