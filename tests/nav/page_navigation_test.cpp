@@ -162,14 +162,6 @@ TEST(PageMouse, ALeftClickTurnsByThePageClickedOrByCtrlInSinglePageMode) {
   EXPECT_EQ(DecidePageMouse(down, Lines()).action, kNone) << "the release decides";
 }
 
-TEST(PageMouse, TheRightButtonOpensTheMenuUnlessNavigationIsBusy) {
-  const auto up = Mouse(PageMouseEventKind::kUp, 0, PageMouseButton::kRight);
-  PageMouseContext context = Lines();
-  EXPECT_EQ(DecidePageMouse(up, context).action, PageMouseAction::kContextMenu);
-  context.navigation_busy = true;
-  EXPECT_EQ(DecidePageMouse(up, context).action, PageMouseAction::kNone);
-}
-
 TEST(PageMouse, ShiftClickMarksTheLineUnderThePointerAndSpeaksItOnRelease) {
   auto down = Mouse(PageMouseEventKind::kDown, 0, PageMouseButton::kLeft, 300 + 2 * 240 + 5);
   down.shift = true;
@@ -213,18 +205,6 @@ TEST(PageNavState, SliderAndTypedPagesRoundToWholePagesWithinTheBook) {
   EXPECT_DOUBLE_EQ(scale.PageAt(12), 1);
   EXPECT_DOUBLE_EQ(scale.PageAt(402), 40);
   EXPECT_DOUBLE_EQ(scale.PageAt(scale.XOf(17)), 17);
-}
-
-TEST(NumericValue, ReadsTheLeadingNumberLikeVal) {
-  EXPECT_EQ(NumericValue("12abc"), 12);
-  EXPECT_EQ(NumericValue(" - 5"), -5);
-  EXPECT_EQ(NumericValue(".5"), 0.5);
-  EXPECT_EQ(NumericValue("1e2"), 100);
-  EXPECT_EQ(NumericValue("1d1x"), 10);
-  EXPECT_EQ(NumericValue("3e"), 3);
-  EXPECT_EQ(NumericValue("1.2.3"), 1.2);
-  EXPECT_EQ(NumericValue("x1"), 0);
-  EXPECT_EQ(NumericValue("-"), 0);
 }
 
 }  // namespace
