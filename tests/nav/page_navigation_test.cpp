@@ -145,23 +145,6 @@ PageMouseEvent Mouse(PageMouseEventKind kind, int box, PageMouseButton button, d
   return event;
 }
 
-TEST(PageMouse, ALeftClickTurnsByThePageClickedOrByCtrlInSinglePageMode) {
-  using enum PageMouseAction;
-  auto up = Mouse(PageMouseEventKind::kUp, 1, PageMouseButton::kLeft);
-  EXPECT_EQ(DecidePageMouse(up, Lines()).action, kTurnForward);
-  up.ctrl = true;  // Ctrl means nothing with two pages
-  EXPECT_EQ(DecidePageMouse(up, Lines()).action, kTurnForward);
-  up.page_box = 0;
-  EXPECT_EQ(DecidePageMouse(up, Lines()).action, kTurnBack);
-
-  EXPECT_EQ(DecidePageMouse(up, Lines(PageMode::kSingle)).action, kTurnBack);
-  up.ctrl = false;
-  EXPECT_EQ(DecidePageMouse(up, Lines(PageMode::kSingle)).action, kTurnForward);
-
-  auto down = Mouse(PageMouseEventKind::kDown, 1, PageMouseButton::kLeft);
-  EXPECT_EQ(DecidePageMouse(down, Lines()).action, kNone) << "the release decides";
-}
-
 TEST(PageMouse, ShiftClickMarksTheLineUnderThePointerAndSpeaksItOnRelease) {
   auto down = Mouse(PageMouseEventKind::kDown, 0, PageMouseButton::kLeft, 300 + 2 * 240 + 5);
   down.shift = true;

@@ -61,18 +61,6 @@ TEST(BookViewLayout, DoublePageWithTheBarHidden) {
   EXPECT_EQ(lines.centre, (TwipsLine{5930, kEdgeLinesTopY, 5930, 7950}));
 }
 
-TEST(BookViewLayout, AWindowTooSmallLogsAndKeepsTheLayoutSoFar) {
-  ClearActions();
-  BookViewLayout layout;
-  DrawSinglePageBook({9500, 6000, ControlBar::kShown, 9000, 5400}, layout);
-  DrawSinglePageBook({300, 4000, ControlBar::kShown, 9000, 5400}, layout);
-  EXPECT_TRUE(test::ActionLogged(
-      "Invalid procedure call or argument in DrawSinglePageBook(5) of module frmMain"));
-  EXPECT_EQ(layout.page_frames[0].height, 3200);  // set before the width failed
-  EXPECT_EQ(layout.page_frames[0].width, 9115);
-  EXPECT_EQ(layout.lines.top.x2, 9355);  // the lines were not laid out again
-}
-
 class PageBordersTest : public ::testing::Test {
  protected:
   PageBordersTest() {
