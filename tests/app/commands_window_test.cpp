@@ -11,7 +11,6 @@
 #include "app/main_window.h"
 #include "app/window_driving.h"
 #include "book/book_maker.h"
-#include "nav/bookmarks.h"
 
 namespace vireo {
 namespace {
@@ -300,30 +299,6 @@ TEST(FontSize, TheButtonsStopAtSixAndAtFortyEight) {
   EXPECT_EQ(big.logic().preferences().font_size, 47);
 }
 
-TEST(FontSize, AChangeRepaginatesAndKeepsTheReadersPlace) {
-  test::ReaderWindow reader(test::SampleProse(100), kInstant);
-  reader.Start();
-  for (int turn = 0; turn < 5; ++turn) Press(reader, Qt::Key_Space);
-  ASSERT_EQ(reader.logic().current_page(), 12);
-  const int32_t place = reader.logic().pages().PageStart(12);
-  const int32_t count = reader.logic().pages().count;
-
-  reader.window().bar().cmdBiggerFont->click();
-  QApplication::processEvents();
-  const PageIndex& pages = reader.logic().pages();
-  EXPECT_GT(pages.count, count) << "bigger letters, more pages";
-  const int right = reader.logic().current_page();
-  EXPECT_EQ(right % 2, 0);
-  EXPECT_LE(pages.PageStart(right - 1), place);
-  EXPECT_GT(pages.PageStart(right + 1), place) << "the spread on show holds the old place";
-  EXPECT_EQ(RetrieveBookmark(reader.logic().book_path()), place)
-      << "the bookmark was the start of the right-hand page";
-
-  reader.window().bar().cmdSmallerFont->click();
-  QApplication::processEvents();
-  EXPECT_EQ(reader.logic().pages().count, count) << "the same size gives the same pages";
-}
-
 TEST(ControlBar, ShowingTheBarWidensANarrowWindowTo9500Twips) {
   test::ReaderWindow reader(test::SampleProse(60), kInstant);
   reader.Start();
@@ -358,20 +333,6 @@ TEST(Resizing, TheWindowSnapsBackToItsSmallestSize) {
   EXPECT_EQ(WindowPixels(reader).width(), Px(3500)) << "but not less than 3500";
 }
 
-TEST(Resizing, ABiggerWindowRepaginatesAtTheReadersPlace) {
-  test::ReaderWindow reader(test::SampleProse(100), kInstant);
-  reader.Start();
-  for (int turn = 0; turn < 4; ++turn) Press(reader, Qt::Key_Space);
-  const int32_t place = reader.logic().pages().PageStart(reader.logic().current_page());
-  const int32_t count = reader.logic().pages().count;
-  DragTo(reader, 14000, 9000);
-  const PageIndex& pages = reader.logic().pages();
-  EXPECT_LT(pages.count, count) << "bigger pages, fewer of them";
-  const int right = reader.logic().current_page();
-  EXPECT_LE(pages.PageStart(right - 1), place);
-  EXPECT_GT(pages.PageStart(right + 1), place);
-}
-
 TEST(Resizing, AResizeDuringAPaginationIsUndone) {
   test::ReaderWindow reader(test::SampleProse(150), kInstant);
   reader.Start();
@@ -382,19 +343,6 @@ TEST(Resizing, AResizeDuringAPaginationIsUndone) {
   QApplication::processEvents();
   EXPECT_EQ(reader.window().size(), before);
   EXPECT_EQ(reader.logic().preferences().font_size, 11);
-}
-
-TEST(FormattingMenu, JustifyRedrawsThePagesWithoutRepaginating) {
-  test::ReaderWindow reader(test::SampleProse(40), kInstant);
-  reader.Start();
-  const QImage justified = test::BoxPicture(reader, kLeftPageBox);
-  EXPECT_TRUE(reader.window().MenuTick("mnuJustified"));
-  EXPECT_FALSE(test::Repaginates(reader, [&] { Trigger(reader, "mnuJustified"); }));
-  EXPECT_FALSE(reader.window().MenuTick("mnuJustified"));
-  EXPECT_FALSE(reader.logic().preferences().justify);
-  EXPECT_NE(test::BoxPicture(reader, kLeftPageBox), justified) << "ragged lines drawn";
-  Trigger(reader, "mnuJustified");
-  EXPECT_EQ(test::BoxPicture(reader, kLeftPageBox), justified);
 }
 
 TEST(FormattingMenu, TheTextOptionsReloadTheBook) {
@@ -442,22 +390,6 @@ TEST(DeleteCommand, AsksWithThePathAndOnYesLeavesTheTitlePage) {
   const QImage title_page = test::BoxPicture(reader, kLeftPageBox);
   Press(reader, Qt::Key_Space);
   EXPECT_EQ(test::BoxPicture(reader, kLeftPageBox), title_page) << "no book to turn";
-}
-
-TEST(DeleteCommand, AFailedDeleteIsLoggedAndTheBookIsClosedAnyway) {
-  test::ReaderWindow reader(test::SampleProse(20), kInstant);
-  reader.Start();
-  std::filesystem::remove(reader.logic().book_path());  // gone already: the delete fails
-  reader.user().yes = true;
-  ClearActions();
-  Trigger(reader, "mnuErasefile");
-  EXPECT_FALSE(reader.logic().book_loaded());
-  EXPECT_EQ(reader.window().windowTitle(), "Vireo");
-  bool logged = false;
-  for (const std::string& action : Actions().text) {
-    logged |= action.find("in sub mnuerasefile_click") != std::string::npos;
-  }
-  EXPECT_TRUE(logged);
 }
 
 TEST(DroppedFiles, TheNameDecidesWhetherTheFileIsTried) {

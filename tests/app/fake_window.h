@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "app/main_window_view.h"
+#include "fake_pump.h"
 #include "fake_surface.h"
 #include "support/user_interaction.h"
 
@@ -28,7 +29,7 @@ class FakeWindow : public MainWindowView {
   void UnloadAllWindows() override { events.push_back("unload windows"); }
   void EndProgram(int status) override { events.push_back("end " + std::to_string(status)); }
   void ShowMainWindow() override { events.push_back("show window"); }
-  void SetCaption(std::string_view text) override { caption = text; }
+  void SetCaption(std::string_view) override {}
   void SetExitCaption(std::string_view text) override { exit_caption = text; }
   uint32_t SystemWindowColour() override { return 0xFFFFFF; }
   uint32_t SystemWindowTextColour() override { return 0; }
@@ -51,34 +52,28 @@ class FakeWindow : public MainWindowView {
   Surface& Box(int box) override { return boxes[box]; }
   void SetBoxBackColour(int, uint32_t) override {}
   void SetBoxTexture(int box, std::optional<int>) override { boxes[box].Clear(); }
-  bool LoadTexture(int slot, const std::string&) override {
-    textures.push_back(slot);
-    return true;
-  }
+  bool LoadTexture(int, const std::string&) override { return true; }
   void CopyBox(int source, int destination) override {
     boxes[destination].runs = boxes[source].runs;
   }
-  void StretchBox(int, int, double) override { ++stretches; }
+  void StretchBox(int, int, double) override {}
   double FrameWidth(int) const override { return layout.page_width; }
   void SetBoxWidth(int, double) override {}
   void SetBoxLeft(int, double) override {}
   void SetBoxVisible(int, Visibility) override {}
   void RaiseBox(int) override {}
   void RefreshBox(int) override {}
-  void SetLamp(Lamp value) override { lamp = value; }
-  void SetBarVisible(bool visible) override { bar_visible = visible; }
+  void SetLamp(Lamp) override {}
+  void SetBarVisible(bool) override {}
   double Frame1Width() const override { return 9000; }
   double Frame1Top() const override { return window.height - 660; }
-  void SetPageLabel(std::string_view text, uint32_t colour) override {
-    page_label = text;
-    page_label_colour = colour;
-  }
-  void SetFontSizeLabel(std::string_view text) override { font_size_label = text; }
-  void SetSearchLabel(std::string_view text) override { search_label = text; }
+  void SetPageLabel(std::string_view, uint32_t) override {}
+  void SetFontSizeLabel(std::string_view) override {}
+  void SetSearchLabel(std::string_view) override {}
   PageChooser& PageDialog() override { return chooser; }
   TwipsSize LanguageListSize() const override { return {1650, 900}; }
   void PlaceLanguageList(const LanguageListPlacement&) override {}
-  void SetLanguageListVisible(bool visible) override { language_list_visible = visible; }
+  void SetLanguageListVisible(bool) override {}
   void SetMenuTick(std::string_view item, bool ticked) override {
     ticks[std::string(item)] = ticked;
   }
@@ -86,18 +81,11 @@ class FakeWindow : public MainWindowView {
     const auto found = ticks.find(std::string(item));
     return found != ticks.end() && found->second;
   }
-  void SetMenuEnabled(std::string_view item, bool enabled) override {
-    enabled_items[std::string(item)] = enabled;
-  }
+  void SetMenuEnabled(std::string_view, bool) override {}
 
   std::vector<std::string> events;
   std::vector<std::string> splash_statuses;
-  std::string caption;
   std::string exit_caption;
-  std::string page_label;
-  uint32_t page_label_colour = 0;
-  std::string font_size_label;
-  std::string search_label;
   // The page dialog: answers with `page`, or cancels when it holds nothing.
   struct Chooser : PageChooser {
     std::optional<int> ChoosePage(int, int) override { return page; }
@@ -105,15 +93,9 @@ class FakeWindow : public MainWindowView {
   } chooser;
   WindowSize window{9500, 6570};
   bool maximised = false;
-  bool bar_visible = true;
-  bool language_list_visible = true;
-  Lamp lamp = Lamp::kGrey;
-  int stretches = 0;
-  std::vector<int> textures;
   BookViewLayout layout;
   std::array<FakeSurface, 8> boxes;
   std::map<std::string, bool> ticks;
-  std::map<std::string, bool> enabled_items;
 };
 
 // Answers every box with its default and keeps what was asked.
@@ -135,14 +117,6 @@ class FakeUser : public UserInteraction {
   std::vector<std::string> messages;
   std::optional<std::string> answer;
   bool yes = false;
-};
-
-class FakePump : public MessagePump {
- public:
-  void Yield() override { ++yields; }
-  void SleepMilliseconds(int milliseconds) override { slept_ms += milliseconds; }
-  int yields = 0;
-  int slept_ms = 0;
 };
 
 }  // namespace vireo::test

@@ -43,7 +43,7 @@ class FormLoadTest : public testing::Test {
   std::string exe_ = folder_.File("Vireo");
   test::FakeWindow window_;
   test::FakeUser user_;
-  test::FakePump pump_;
+  test::RecordingPump pump_;
   frmMain main_{window_, user_, pump_, {folder_.str(), exe_}};
 };
 
@@ -95,11 +95,6 @@ TEST_F(FormLoadTest, CommandsWhileStartingAreRefused) {
   main_.Quit();
   EXPECT_TRUE(window_.events.empty());
   EXPECT_FALSE(main_.Form_QueryUnload(true)) << "a close is refused only while paginating";
-}
-
-TEST_F(FormLoadTest, TheLoadCommandSaysItIsNotSupported) {
-  main_.mnuLoad_Click();
-  EXPECT_THAT(user_.messages, ElementsAre("Loading is not supported in this version."));
 }
 
 TEST(ProgramFolderString, ADrivesRootBecomesC) {

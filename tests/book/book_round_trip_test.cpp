@@ -53,20 +53,6 @@ TEST_F(RoundTrip, EveryByteValue) {
   ExpectRoundTrip(all + backwards + all, "every byte");
 }
 
-TEST_F(RoundTrip, LongRunsOfBlanksAndLineEnds) {
-  ExpectRoundTrip(std::string(3000, ' ') + std::string(2000, '\r') + "x" + std::string(2000, '\n') +
-                      std::string(1000, ' ') + "\r\n\r\n",
-                  "runs");
-}
-
-TEST_F(RoundTrip, RandomBytes) {
-  std::mt19937 random(42);
-  std::uniform_int_distribution<size_t> length(0, 3000);
-  for (int round = 0; round < 15; ++round) {
-    ExpectRoundTrip(test::RandomBytes(random, length(random)), "round " + std::to_string(round));
-  }
-}
-
 TEST_F(RoundTrip, HostilePieces) {
   std::mt19937 random(5);
   std::vector<std::string> pieces = test::ReformattingPieces();

@@ -145,16 +145,6 @@ TEST(clsBIN, ReadsABflFileWithItsHeader) {
                                                {"Finishing", 90, 100}}));
 }
 
-TEST(clsBIN, ABflFileWithoutTheFlagIsUnpackedWithoutDetails) {
-  test::TempFolder folder;
-  const std::string path = folder.File("plain.bfl");
-  test::WriteFile(path, HandScramble("Plain"));
-  clsBIN bin;
-  bin.ConvertAndLoadBFL(path);
-  EXPECT_EQ(bin.result_text(), "Plain");
-  EXPECT_EQ(bin.details().author, "");
-}
-
 TEST(clsBIN, ABflHeaderBelowFiftyIsAnOverflowAndStaysInTheBody) {
   LogCapture log;
   std::string header = BflHeader(kDetails);
@@ -165,22 +155,6 @@ TEST(clsBIN, ABflHeaderBelowFiftyIsAnOverflowAndStaysInTheBody) {
   EXPECT_EQ(bin.body(), header);
   EXPECT_EQ(LogCapture::Entries(),
             std::vector<std::string>{"Overflow in function checkforbflheader(6) of module clsBIN"});
-}
-
-TEST(clsBIN, AMissingFileIsLoggedInReadBin) {
-  LogCapture log;
-  clsBIN bin;
-  bin.ReadBin("/nonexistent/book.brn");
-  EXPECT_EQ(bin.body(), "");
-  ASSERT_FALSE(LogCapture::Entries().empty());
-  EXPECT_EQ(LogCapture::Entries()[0], "File not found in sub readbin(53) of module clsBIN");
-}
-
-TEST(clsBIN, BookFolderOfAPath) {
-  EXPECT_EQ(BookFolderOf("books/old/book.brn"), "books/old/");
-  EXPECT_EQ(BookFolderOf("C:\\books\\book.brn"), "C:\\books\\");
-  EXPECT_EQ(BookFolderOf("book.brn").substr(0, 1), ".");
-  EXPECT_EQ(BookFolderOf("book.brn").size(), 2u);
 }
 
 }  // namespace

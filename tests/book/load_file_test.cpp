@@ -124,23 +124,6 @@ TEST_F(LoadFileTest, AHeaderMarkerWithoutABookMarkerIsALoggedError) {
                 "Invalid procedure call or argument in sub loadfile(5) of module frmMain"});
 }
 
-TEST_F(LoadFileTest, AnUnreadableFileIsALoggedError) {
-  LoadFile(folder_.File("missing"), host_);
-  EXPECT_TRUE(host_.calls.empty());
-  EXPECT_EQ(LogCapture::Entries(),
-            std::vector<std::string>{"File not found in sub loadfile(53) of module frmMain"});
-}
-
-TEST_F(LoadFileTest, MarkersAtTheVeryEndGiveAnEmptyBook) {
-  LoadFile(Write("empty-book", kStub + HeaderMarker() + BookMarker()), host_);
-  EXPECT_EQ(host_.text, "");
-  EXPECT_EQ(host_.title, "empty-book");
-  EXPECT_EQ(LogCapture::Entries(),
-            (std::vector<std::string>{
-                "Invalid procedure call or argument in sub brnpostextract(5) of module clsBIN",
-                "Invalid procedure call or argument in sub decodedetails(5) of module clsBIN"}));
-}
-
 TEST_F(LoadFileTest, TruncatedBooksEndInTheMessageALoggedErrorOrAShorterText) {
   std::mt19937 random(9);
   const std::string text = test::ProseLikeText(random, 20000);
@@ -159,20 +142,6 @@ TEST_F(LoadFileTest, TruncatedBooksEndInTheMessageALoggedErrorOrAShorterText) {
     EXPECT_TRUE(result.has_book) << keep;
     EXPECT_LE(result.text.size(), text.size() + text.size() / 8) << keep;
   }
-}
-
-TEST_F(LoadFileTest, NoiseBehindTheMarkersNeverBreaksTheLoader) {
-  std::mt19937 random(13);
-  for (size_t length : {size_t{1}, size_t{3999}, size_t{4000}, size_t{100000}, size_t{1000000}}) {
-    const BookReadResult result = ReadEmbeddedBook(
-        Write("noise", kStub + HeaderMarker() + BookMarker() + test::RandomBytes(random, length)),
-        {});
-    EXPECT_TRUE(result.has_book);
-  }
-  const BookReadResult noise =
-      ReadEmbeddedBook(Write("noise", test::RandomBytes(random, 1 << 20)), {});
-  EXPECT_FALSE(noise.has_book);
-  EXPECT_EQ(noise.message, "There is no ebook stored in this file.");
 }
 
 }  // namespace

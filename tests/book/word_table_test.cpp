@@ -29,24 +29,6 @@ std::string ExpandRowByRow(std::string text) {
   return text;
 }
 
-TEST(WordTable, KeepsItsQuirks) {
-  const WordTable words = SetupWords();
-  EXPECT_EQ(words[9].word, "er");
-  EXPECT_EQ(words[30].word, "er");
-  EXPECT_EQ(words[31].code, 231);
-  EXPECT_EQ(words[31].word, " ");
-  EXPECT_EQ(words[32].code, 32);
-  EXPECT_EQ(words[32].word, "f");
-  EXPECT_EQ(words[34].code, 233);
-  EXPECT_EQ(words[34].word, ".");
-  EXPECT_EQ(words[35].code, 46);
-  EXPECT_EQ(words[35].word, "r");
-  EXPECT_EQ(words[39].code, 179);
-  EXPECT_EQ(words[39].word, " 0");
-  EXPECT_EQ(words[48].code, 188);
-  EXPECT_EQ(words[48].word, " 9");
-}
-
 TEST(WordTable, ComposedExpansionsGiveTheFinalMeaningOfEachCode) {
   EXPECT_EQ(ExpandWords(" "), "f");
   EXPECT_EQ(ExpandWords("\xE7"), " ");

@@ -8,19 +8,14 @@
 #include <string>
 
 #include "book/book_reader.h"
-#include "support/logging.h"
-#include "support/vhtml_library.h"
+#include "fuzz_support.h"
 
 namespace {
 std::string g_path;
 }
 
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
-  if (!vireo::TheVHtml().Load(VIREO_BIN_DIR)) {
-    std::fprintf(stderr, "cannot load the helper library from %s\n", VIREO_BIN_DIR);
-    std::abort();
-  }
-  vireo::SetLoggingDisabled(true);
+  vireo::fuzz::StartUp();
   g_path = "/tmp/vireo-load-file-fuzz-" + std::to_string(getpid());
   return 0;
 }

@@ -9,9 +9,8 @@
 #include <string>
 
 #include "../layout/literal_paginator.h"
+#include "fuzz_support.h"
 #include "layout/reindex.h"
-#include "support/logging.h"
-#include "support/vhtml_library.h"
 
 namespace {
 
@@ -121,8 +120,7 @@ void Check(bool condition, const char* what) {
 }  // namespace
 
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
-  vireo::TheVHtml().Load(VIREO_BIN_DIR);
-  vireo::SetLoggingDisabled(true);
+  vireo::fuzz::StartUp();
   return 0;
 }
 

@@ -8,13 +8,10 @@
 
 #include "../book/replace_known_char_reference.h"
 #include "book/cls_strip_cr.h"
-#include "support/vhtml_library.h"
+#include "fuzz_support.h"
 
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
-  if (!vireo::TheVHtml().Load(VIREO_BIN_DIR)) {
-    std::fprintf(stderr, "cannot load the helper library from %s\n", VIREO_BIN_DIR);
-    std::abort();
-  }
+  vireo::fuzz::StartUp();
   return 0;
 }
 

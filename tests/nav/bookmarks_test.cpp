@@ -16,12 +16,6 @@ class BookmarksTest : public testing::Test {
   test::TempFolder folder_;
 };
 
-TEST_F(BookmarksTest, CopiesOfABookInOtherFoldersShareOnePosition) {
-  StoreBookmark("/home/ann/books/Genesis", 1234);
-  EXPECT_EQ(RetrieveBookmark("/tmp/copy/genesis"), 1234);
-  EXPECT_EQ(RetrieveBookmark("/tmp/Exodus"), 0) << "a new book starts at its beginning";
-}
-
 TEST_F(BookmarksTest, AnEmptyPathStoresNothing) {
   StoreBookmark("", 55);
   SaveBookmarks();

@@ -145,31 +145,6 @@ PageMouseEvent Mouse(PageMouseEventKind kind, int box, PageMouseButton button, d
   return event;
 }
 
-TEST(PageMouse, ALeftClickTurnsByThePageClickedOrByCtrlInSinglePageMode) {
-  using enum PageMouseAction;
-  auto up = Mouse(PageMouseEventKind::kUp, 1, PageMouseButton::kLeft);
-  EXPECT_EQ(DecidePageMouse(up, Lines()).action, kTurnForward);
-  up.ctrl = true;  // Ctrl means nothing with two pages
-  EXPECT_EQ(DecidePageMouse(up, Lines()).action, kTurnForward);
-  up.page_box = 0;
-  EXPECT_EQ(DecidePageMouse(up, Lines()).action, kTurnBack);
-
-  EXPECT_EQ(DecidePageMouse(up, Lines(PageMode::kSingle)).action, kTurnBack);
-  up.ctrl = false;
-  EXPECT_EQ(DecidePageMouse(up, Lines(PageMode::kSingle)).action, kTurnForward);
-
-  auto down = Mouse(PageMouseEventKind::kDown, 1, PageMouseButton::kLeft);
-  EXPECT_EQ(DecidePageMouse(down, Lines()).action, kNone) << "the release decides";
-}
-
-TEST(PageMouse, TheRightButtonOpensTheMenuUnlessNavigationIsBusy) {
-  const auto up = Mouse(PageMouseEventKind::kUp, 0, PageMouseButton::kRight);
-  PageMouseContext context = Lines();
-  EXPECT_EQ(DecidePageMouse(up, context).action, PageMouseAction::kContextMenu);
-  context.navigation_busy = true;
-  EXPECT_EQ(DecidePageMouse(up, context).action, PageMouseAction::kNone);
-}
-
 TEST(PageMouse, ShiftClickMarksTheLineUnderThePointerAndSpeaksItOnRelease) {
   auto down = Mouse(PageMouseEventKind::kDown, 0, PageMouseButton::kLeft, 300 + 2 * 240 + 5);
   down.shift = true;
@@ -213,18 +188,6 @@ TEST(PageNavState, SliderAndTypedPagesRoundToWholePagesWithinTheBook) {
   EXPECT_DOUBLE_EQ(scale.PageAt(12), 1);
   EXPECT_DOUBLE_EQ(scale.PageAt(402), 40);
   EXPECT_DOUBLE_EQ(scale.PageAt(scale.XOf(17)), 17);
-}
-
-TEST(NumericValue, ReadsTheLeadingNumberLikeVal) {
-  EXPECT_EQ(NumericValue("12abc"), 12);
-  EXPECT_EQ(NumericValue(" - 5"), -5);
-  EXPECT_EQ(NumericValue(".5"), 0.5);
-  EXPECT_EQ(NumericValue("1e2"), 100);
-  EXPECT_EQ(NumericValue("1d1x"), 10);
-  EXPECT_EQ(NumericValue("3e"), 3);
-  EXPECT_EQ(NumericValue("1.2.3"), 1.2);
-  EXPECT_EQ(NumericValue("x1"), 0);
-  EXPECT_EQ(NumericValue("-"), 0);
 }
 
 }  // namespace

@@ -96,13 +96,5 @@ TEST(BookSearch, AMatchOnTheLastPageLeadsToPageOneAsThePageLookupClampsIt) {
   EXPECT_EQ(book.Next("lamp", 2), 1);
 }
 
-TEST(BookSearch, TheTextIsSearchedAsItWasLastSet) {
-  PagedBook book({"aaaaaa", "bbbbbb", "cccccc", "eeeeee"});
-  EXPECT_EQ(book.Next("ccc", 1), 3);
-  book.search.SetText("aaaaaabbbbbbddddddeeeeee");
-  EXPECT_EQ(book.Next("ccc", 1), std::nullopt);
-  EXPECT_EQ(book.Next("DDD", 1), 3);
-}
-
 }  // namespace
 }  // namespace vireo

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <map>
 #include <sstream>
 
@@ -95,21 +94,6 @@ TEST_F(ReaderPreferencesTest, FirstRunAppliesTheDefaultsInOrder) {
   EXPECT_EQ(prefs.page_sweep_width, 2100);
   EXPECT_FALSE(prefs.instant_page_turn);
   EXPECT_EQ(prefs.texture_num, 1);
-}
-
-TEST_F(ReaderPreferencesTest, DefaultWidthFollowsTheBarWhileTheKeyFollowsThePageMode) {
-  sset("BarHidden", true);
-  Read();
-  EXPECT_THAT(host.calls, Contains("width 3500"));
-
-  // In single-page mode a stored two-page width is not the one read.
-  host.calls.clear();
-  sset("SinglePageMode", true);
-  sset("WinWidth", 8000);
-  sset("WinHeight", 7000);
-  sset("SingleWinHeight", 6800);
-  Read();
-  EXPECT_THAT(host.calls, IsSupersetOf({"height 6800", "width 3500"}));
 }
 
 TEST_F(ReaderPreferencesTest, AWindowNearlyAsLargeAsTheScreenOpensMaximised) {
@@ -208,21 +192,6 @@ TEST_F(ReaderPreferencesTest, StoredPreferencesAreReadBackAtTheNextStart) {
   EXPECT_EQ(read.highlight_colour, 0x00FFFFu);
   EXPECT_EQ(read.paper_colour, prefs.paper_colour);
   EXPECT_EQ(read.path, folder.str());
-}
-
-TEST_F(ReaderPreferencesTest, APathThatNoLongerExistsFallsBackToTheProgramFolder) {
-  ReadDefaultPath(prefs, "/program");
-  EXPECT_EQ(prefs.path, "/program");
-
-  const std::string books = folder.File("books");
-  std::filesystem::create_directory(books);
-  sset("Path", books);
-  ReadDefaultPath(prefs, "/program");
-  EXPECT_EQ(prefs.path, books);
-
-  std::filesystem::remove(books);
-  ReadDefaultPath(prefs, "/program");
-  EXPECT_EQ(prefs.path, "/program");
 }
 
 }  // namespace

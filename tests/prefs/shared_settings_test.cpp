@@ -2,10 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <random>
+#include <filesystem>
 
-#include "prefs/settings_get_set.h"
 #include "support/file_io.h"
 #include "support/logging.h"
 #include "support/runtime_error.h"
@@ -73,12 +71,6 @@ TEST_F(SettingsFileTest, LoadSkipsAdjacentDuplicatesAndBlankKeysButLaterLinesWin
   EXPECT_EQ(store_.SettingsCount(), 6);
 }
 
-TEST_F(SettingsFileTest, LoadingAMissingFileKeepsTheStore) {
-  store_.StoreSetting("Kept", 1);
-  store_.LoadSettings(folder_.File("absent.ini"));
-  EXPECT_EQ(store_.RetrieveSetting("Kept").ToNumber(), 1);
-}
-
 TEST_F(SettingsFileTest, RetrieveWithDefaultTreatsZeroAsAbsent) {
   store_.StoreSetting("Count", "0");
   store_.StoreSetting("Off", false);
@@ -97,18 +89,6 @@ TEST_F(SettingsFileTest, AReadOnlyFileIsMadeWritableThenSaved) {
   EXPECT_EQ(test::ReadFile(Path()), "NEW,2\r\n");
 }
 
-TEST_F(SettingsFileTest, AReadOnlyFileThatStaysReadOnlyIsReportedAndKept) {
-  test::WriteFile(Path(), "OLD,1\r\n");
-  std::filesystem::permissions(Path(), std::filesystem::perms::owner_read);
-  SetReadOnlyClearer([](const std::string&) { return false; });
-  store_.StoreSetting("New", 2);
-  store_.SaveSettings(Path());
-  std::filesystem::permissions(Path(), std::filesystem::perms::owner_all);
-  EXPECT_EQ(test::ReadFile(Path()), "OLD,1\r\n");
-  EXPECT_NE(Log().find(Path() + " is read only, can't change it to read write, can't update it"),
-            std::string::npos);
-}
-
 TEST_F(SettingsFileTest, ASaveInterruptedBeforeItsRenameLeavesTheOldFile) {
   test::WriteFile(Path(), "OLD,1\r\n");
   SetBeforeRenameHook([] { throw RuntimeError(ErrorNumber::kDiskFull); });
@@ -120,53 +100,6 @@ TEST_F(SettingsFileTest, ASaveInterruptedBeforeItsRenameLeavesTheOldFile) {
   EXPECT_NE(Log().find("Unable to write to settings file - possibly read-only? - Disk full in "
                        "SaveSettings"),
             std::string::npos);
-}
-
-TEST_F(SettingsFileTest, ASaveIntoAMissingFolderFailsCleanly) {
-  store_.StoreSetting("New", 2);
-  store_.SaveSettings(folder_.File("missing/Vireo.ini"));
-  EXPECT_NE(Log().find("Unable to write to settings file - possibly read-only? - Path/File "
-                       "access error in SaveSettings"),
-            std::string::npos);
-}
-
-TEST(SettingsStore, KeysStaySortedAndUniqueWhateverTheInsertionOrder) {
-  std::mt19937 random(7);
-  for (int round = 0; round < 50; ++round) {
-    cSHAREDSettings store;
-    std::vector<std::string> keys;
-    for (int i = 0; i < 30; ++i) {
-      std::string key(1 + random() % 3, 'A');
-      for (char& c : key) c = static_cast<char>('A' + random() % 4);
-      keys.push_back(key);
-      store.StoreSetting(key, i);
-    }
-    std::sort(keys.begin(), keys.end());
-    keys.erase(std::unique(keys.begin(), keys.end()), keys.end());
-    ASSERT_EQ(store.SettingsCount(), static_cast<int>(keys.size()));
-    for (int i = 1; i <= store.SettingsCount(); ++i) {
-      EXPECT_EQ(store.SettingNameByIndex(i), keys[i - 1]);
-    }
-  }
-}
-
-TEST(SettingsStore, DeletesByIndexAndName) {
-  cSHAREDSettings store;
-  for (const char* key : {"C", "A", "B"}) store.StoreSetting(key, 1);
-  store.DeleteSettingByName("B");
-  store.DeleteSetting(1);
-  EXPECT_EQ(store.SettingsCount(), 1);
-  EXPECT_EQ(store.SettingNameByIndex(1), "C");
-  EXPECT_FALSE(store.SettingPresent("a"));
-  EXPECT_TRUE(store.SettingPresent("c"));
-}
-
-TEST(GlobalSettings, GetAndSetIgnoreTheCaseOfKeys) {
-  ResetGlobalSettings();
-  EXPECT_EQ(sget("FontName", "Times New Roman").ToText(), "Times New Roman");
-  sset("FontName", "Arial");
-  EXPECT_EQ(sget("fontname", "x").ToText(), "Arial");
-  ResetGlobalSettings();
 }
 
 TEST(SettingValue, ConvertsLikeThePreferenceReadersExpect) {

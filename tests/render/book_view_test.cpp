@@ -61,38 +61,6 @@ TEST(BookViewLayout, DoublePageWithTheBarHidden) {
   EXPECT_EQ(lines.centre, (TwipsLine{5930, kEdgeLinesTopY, 5930, 7950}));
 }
 
-TEST(BookViewLayout, SinglePageWithTheBarHiddenPlacesFrame1UnderThePage) {
-  BookViewLayout layout;
-  DrawSinglePageBook({3500, 6570, ControlBar::kHidden, 1500, 0}, layout);
-  EXPECT_EQ(layout.page_frames[0], (TwipsRect{155, kPageFrameTop, 3115, 6345}));
-  ASSERT_TRUE(layout.frame1.has_value());
-  EXPECT_EQ(*layout.frame1, (TwipsPoint{955, kPageFrameTop + 6345 + 50}));
-  EXPECT_EQ(layout.lines.bottom.y1, 6520);
-}
-
-TEST(BookViewLayout, DoublePageWithTheBarShownUsesTheBarForTheBottomLine) {
-  BookViewLayout layout;
-  DrawDoublePageBook({9500, 6570, ControlBar::kShown, 9000, 5900}, layout);
-  EXPECT_EQ(layout.page_frames[0].height, 5770);
-  EXPECT_EQ(layout.page_frames[1].left, 4705);
-  EXPECT_FALSE(layout.frame1.has_value());
-  EXPECT_EQ(layout.lines.bottom.y2, 5885);
-  EXPECT_EQ(layout.lines.left.y2, 5885);
-  EXPECT_EQ(layout.lines.hard_left.y2, 5810);
-}
-
-TEST(BookViewLayout, AWindowTooSmallLogsAndKeepsTheLayoutSoFar) {
-  ClearActions();
-  BookViewLayout layout;
-  DrawSinglePageBook({9500, 6000, ControlBar::kShown, 9000, 5400}, layout);
-  DrawSinglePageBook({300, 4000, ControlBar::kShown, 9000, 5400}, layout);
-  EXPECT_TRUE(test::ActionLogged(
-      "Invalid procedure call or argument in DrawSinglePageBook(5) of module frmMain"));
-  EXPECT_EQ(layout.page_frames[0].height, 3200);  // set before the width failed
-  EXPECT_EQ(layout.page_frames[0].width, 9115);
-  EXPECT_EQ(layout.lines.top.x2, 9355);  // the lines were not laid out again
-}
-
 class PageBordersTest : public ::testing::Test {
  protected:
   PageBordersTest() {
@@ -136,23 +104,6 @@ TEST_F(PageBordersTest, BordersComeFromTheSettings) {
   SetPageBorders(page, 10, area);
   EXPECT_EQ(area.text_width, 4500);
   EXPECT_EQ(area.text_height, 8000);
-}
-
-TEST_F(PageBordersTest, AWrongTypedBorderIsLoggedAndLaterValuesKeepTheirOldOnes) {
-  area.text_width = 123;
-  sset("RightBorder", "wide");
-  SetPageBorders(page, 10, area);
-  EXPECT_TRUE(test::ActionLogged("Type mismatch in sub setpageborders(13) of module frmMain"));
-  EXPECT_EQ(area.left_border, 400);
-  EXPECT_EQ(area.text_width, 123);
-}
-
-TEST(Textures, TextureNumberChoosesASlotOrNone) {
-  EXPECT_EQ(TextureSlot(-1), std::nullopt);
-  EXPECT_EQ(TextureSlot(0), 0);
-  EXPECT_EQ(TextureSlot(3), 3);
-  EXPECT_THROW(TextureSlot(4), RuntimeError);
-  EXPECT_THROW(TextureSlot(-2), RuntimeError);
 }
 
 TEST(Textures, OnlyThePaperFilesPresentFillTheirSlots) {

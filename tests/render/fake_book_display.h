@@ -2,13 +2,12 @@
 
 #include <algorithm>
 #include <array>
-#include <functional>
 #include <string>
 #include <vector>
 
+#include "fake_pump.h"
 #include "render/book_display.h"
 #include "support/runtime_error.h"
-#include "support/user_interaction.h"
 
 namespace vireo::test {
 
@@ -159,25 +158,6 @@ class FakeBookDisplay : public BookDisplay {
     const double outer = frame == kLeftFrame ? 0 : w - 1;
     return {box, squeezed, ShownAt(frame, spine), ShownAt(frame, outer)};
   }
-};
-
-// Counts yields and pauses; on_yield runs inside a yield (input arriving
-// while the program lets messages through).
-class RecordingPump : public MessagePump {
- public:
-  void Yield() override {
-    ++yields;
-    if (on_yield) on_yield();
-  }
-  void SleepMilliseconds(int milliseconds) override {
-    ++pauses;
-    slept_ms += milliseconds;
-  }
-
-  std::function<void()> on_yield;
-  int yields = 0;
-  int pauses = 0;
-  int slept_ms = 0;
 };
 
 }  // namespace vireo::test

@@ -98,28 +98,6 @@ TEST_F(PageCacheTest, ForwardRefillOnTheLastPageStampsPagesThatNeverMatch) {
   EXPECT_EQ(display.CountEvents("clear 0"), 1) << "only the first turn drew";
 }
 
-TEST_F(PageCacheTest, BackwardRefillOnTheFirstPagesAsksForPagesBelowOne) {
-  state.mode = PageMode::kSingle;
-  Redraw(2);
-  turner.SinglePagePrev(kPages);
-  EXPECT_EQ(state.current_page, 1);
-  EXPECT_EQ(display.CountEvents("plot 0 4 0"), 1);
-  EXPECT_EQ(cache.Stamp(CacheSlot::kLeftLower), 0);
-  EXPECT_EQ(cache.Stamp(CacheSlot::kLeftHigher), -1);
-
-  state.mode = PageMode::kDouble;
-  state.current_page = 2;
-  cache.CacheLowerPages();
-  EXPECT_EQ(cache.Stamp(CacheSlot::kLeftLower), -1);
-  EXPECT_EQ(cache.Stamp(CacheSlot::kLeftHigher), 0);
-  state.current_page = 1;
-  cache.CacheLowerPages();
-  EXPECT_EQ(display.CountEvents("plot 0 4 -2"), 1);
-  EXPECT_EQ(display.CountEvents("plot 0 5 -1"), 1);
-  EXPECT_EQ(cache.Stamp(CacheSlot::kLeftLower), -2);
-  EXPECT_EQ(cache.Stamp(CacheSlot::kLeftHigher), -1);
-}
-
 TEST_F(PageCacheTest, SinglePageForwardIsServedFromTheCacheButTurningBackRenders) {
   state.mode = PageMode::kSingle;
   Redraw(3);
@@ -162,16 +140,6 @@ TEST_F(PageCacheTest, DoublePageForwardThenBackCopiesThePreviousSpreadFromTheLow
   EXPECT_EQ(Stamps(), (std::vector<int16_t>{1, 2, 5, 6}));
   EXPECT_EQ(display.content[6], 5);
   EXPECT_EQ(display.content[7], 6);
-}
-
-TEST_F(PageCacheTest, AFailingCopyIsLoggedAndTheRestOfTheTurnGoesOn) {
-  Redraw(4);
-  display.fail_copies_to = 5;
-  turner.WipeRightToLeft(kPages);
-  EXPECT_TRUE(Logged("Invalid procedure call or argument in sub copypage(5) of module frmMain"));
-  EXPECT_EQ(cache.Stamp(CacheSlot::kLeftHigher), 4) << "the stamp was set before the copy";
-  EXPECT_EQ(state.current_page, 6);
-  EXPECT_FALSE(state.busy);
 }
 
 }  // namespace

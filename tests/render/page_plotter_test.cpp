@@ -25,8 +25,7 @@ using ::testing::IsEmpty;
 class FakePageBoxes : public PageBoxes {
  public:
   Surface& Box(int box) override { return boxes.at(static_cast<size_t>(box)); }
-  void SetBoxBackColour(int box, uint32_t bgr) override {
-    back_colours[box] = bgr;
+  void SetBoxBackColour(int box, uint32_t) override {
     calls.push_back("back " + std::to_string(box));
   }
   void SetBoxTexture(int box, std::optional<int> slot) override {
@@ -48,7 +47,6 @@ class FakePageBoxes : public PageBoxes {
   void PlaceLanguageList(const LanguageListPlacement& where) override { placement = where; }
 
   std::array<test::FakeSurface, kBoxCount> boxes;
-  std::map<int, uint32_t> back_colours;
   std::map<int, std::optional<int>> textures;
   std::vector<std::string> calls;
   bool book_loaded = true;
@@ -77,7 +75,7 @@ class PagePlotterTest : public ::testing::Test {
 
   FakePageBoxes boxes;
   ReaderPreferences prefs;
-  test::CountingPump pump;
+  test::RecordingPump pump;
   clsPrintPage composer{pump};
   clsFontMetrics metrics;
   PagePlotter plotter{boxes, prefs, composer, metrics};
@@ -136,25 +134,6 @@ TEST_F(PagePlotterTest, TheSearchTermIsHighlightedInTheHighlightColour) {
   ASSERT_THAT(Texts(boxes.boxes[0]), ElementsAre("Text of ", "page", " 3", "3"));
   EXPECT_EQ(boxes.boxes[0].runs[1].colour, 0x00FF00u);
   EXPECT_EQ(boxes.boxes[0].runs[2].colour, 0x101010u);
-}
-
-TEST_F(PagePlotterTest, PageColoursGiveEveryBoxPaperInkAndTexture) {
-  prefs.texture_num = -1;
-  plotter.SetPageColours();
-  for (int box = 0; box < PageBoxes::kBoxCount; ++box) {
-    EXPECT_EQ(boxes.back_colours[box], 0xEEEEEEu) << box;
-    EXPECT_EQ(boxes.boxes[static_cast<size_t>(box)].ForeColor(), 0x101010u) << box;
-    ASSERT_TRUE(boxes.textures.contains(box));
-    EXPECT_EQ(boxes.textures[box], std::nullopt) << box;
-  }
-}
-
-TEST_F(PagePlotterTest, AnUnknownTextureNumberIsLoggedAndThePageStillDrawn) {
-  ClearActions();
-  prefs.texture_num = 7;
-  plotter.PlotOnPage(0, 0, 2);
-  EXPECT_TRUE(test::ActionLogged("Subscript out of range in sub settexture(9) of module frmMain"));
-  EXPECT_THAT(Texts(boxes.boxes[0]), ElementsAre("Text of page 2", "2"));
 }
 
 }  // namespace

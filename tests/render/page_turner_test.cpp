@@ -188,18 +188,5 @@ TEST_F(PageTurnerTest, AStripWiderThanHalfThePageDrawsAtMostOneSqueezedStep) {
   EXPECT_EQ(display.content[0], 5);
 }
 
-TEST_F(PageTurnerTest, PageNumberOverflowIsLoggedAndLeavesTheBusyFlagSet) {
-  state.mode = PageMode::kSingle;
-  state.current_page = 32767;
-  turner.SinglePageNext(40000);
-  EXPECT_EQ(Actions().text[Actions().position], "Overflow in SinglePageNext(6) of module frmMain");
-  EXPECT_TRUE(state.busy);
-  EXPECT_EQ(state.current_page, 32767);
-
-  state.current_page = 5;
-  turner.SinglePagePrev(40000);
-  EXPECT_EQ(state.current_page, 5) << "turns are refused until a redraw clears the flag";
-}
-
 }  // namespace
 }  // namespace vireo

@@ -55,7 +55,7 @@ class PrintPageTest : public ::testing::Test {
 
   FakeSurface surface;
   clsFontMetrics metrics;
-  test::CountingPump pump;
+  test::RecordingPump pump;
   clsPrintPage composer{pump};
 };
 
@@ -83,57 +83,10 @@ TEST_F(PrintPageTest, SplitsALongWordAtTheShortestPrefixAsWideAsTheLine) {
               ElementsAre(std::string(25, 'x'), "   xxxxx"));
 }
 
-TEST_F(PrintPageTest, NeverSplitsAWordOfTwentyCharacters) {
-  // The word does not fit, so the empty line before it is closed and, being
-  // the page's first, dropped.
-  EXPECT_THAT(Lines(Page(std::string(20, 'y') + " ", 150)), ElementsAre(std::string(20, 'y')));
-}
-
 TEST_F(PrintPageTest, APageWhoseFirstLineWouldBeEmptyStartsWithItsFirstTextLine) {
   EXPECT_THAT(Lines(Page("\n Next words ")), ElementsAre("   Next words"));
   ASSERT_EQ(surface.runs.size(), 1u);
   EXPECT_EQ(surface.runs[0].y, 300);
-}
-
-TEST_F(PrintPageTest, LinesBeyondTheLineArrayAreLoggedAndTheRestIsDrawn) {
-  PageSettings settings = Page("");
-  settings.lines_per_page = 1;  // room for 11 lines
-  for (int i = 0; i < 15; ++i) settings.page_text += "p \n ";
-  EXPECT_EQ(Lines(settings).size(), 11u);
-  EXPECT_TRUE(
-      test::ActionLogged("Subscript out of range in sub storesentences(9) of module clsPrintPage"));
-  EXPECT_EQ(surface.runs.size(), 11u);
-}
-
-class FakeImages : public ComposerImageStore, public PrintPageObserver {
- public:
-  int ImageCount() const override { return 2; }
-  std::optional<double> ImageWidth(int number) const override {
-    if (number == 1) return 300.0;
-    return std::nullopt;
-  }
-  void SetImageLeft(double twips) override { image_left = twips; }
-  void AddImage(int page_side, int image_number, double left, int line_index) override {
-    events.push_back({page_side, image_number, left, line_index});
-  }
-  struct Event {
-    int side, number;
-    double left;
-    int line;
-    bool operator==(const Event&) const = default;
-  };
-  double image_left = -1;
-  std::vector<Event> events;
-};
-
-TEST_F(PrintPageTest, APictureOnThePageIsAnnouncedWithItsLineAndCentredOffset) {
-  FakeImages images;
-  composer.SetImageStore(&images);
-  composer.SetObserver(&images);
-  const auto lines = Lines(Page("Look: \n [IMG=1] \n  \n  \n more "));
-  EXPECT_THAT(images.events, ElementsAre(FakeImages::Event{1, 1, 400, 1}));
-  EXPECT_EQ(images.image_left, 350);  // (1000 - 300) / 2
-  for (const auto& line : lines) EXPECT_EQ(line.find("[IMG"), std::string::npos) << line;
 }
 
 // --- Drawing the lines ---
@@ -214,15 +167,6 @@ TEST_F(PrintPageTest, StyleCodesSwitchTheFontAndAreNotDrawn) {
   EXPECT_EQ(surface.runs[2].x, 590);
 }
 
-TEST_F(PrintPageTest, ThePageFlagsOpenTheStylesAtTheTop) {
-  PageSettings settings = Page("slanted");
-  settings.italic = true;
-  Lines(settings);
-  ASSERT_EQ(surface.runs.size(), 1u);
-  EXPECT_TRUE(surface.runs[0].italic);
-  EXPECT_FALSE(surface.runs[0].bold);
-}
-
 TEST_F(PrintPageTest, HighlightsEveryMatchOfTheSearchTermWhateverItsCase) {
   PageSettings settings = Page("the quick Fox jumps, fox");
   settings.search_term = "fOX";
@@ -245,44 +189,6 @@ TEST_F(PrintPageTest, TheSearchPromptAndBlankTermsHighlightNothing) {
     ASSERT_EQ(surface.runs.size(), 1u) << "term '" << term << "'";
     EXPECT_EQ(surface.runs[0].colour, kInk);
   }
-}
-
-TEST_F(PrintPageTest, NothingIsHighlightedOnThePrinter) {
-  PageSettings settings = Page("the quick fox");
-  settings.search_term = "fox";
-  settings.target = PageTarget::kPrinter;
-  Lines(settings);
-  ASSERT_EQ(surface.runs.size(), 1u);
-  EXPECT_EQ(surface.runs[0].colour, kInk);
-
-  // PrintPage draws the lines composed last, never highlighted.
-  settings.target = PageTarget::kScreen;
-  Lines(settings);
-  FakeSurface printer;
-  printer.char_width = 10;
-  composer.PrintPage(settings, printer);
-  ASSERT_EQ(printer.runs.size(), 1u);
-  EXPECT_EQ(printer.runs[0].text, "the quick fox");
-  EXPECT_EQ(printer.runs[0].colour, 0u);
-  EXPECT_EQ(printer.runs[0].y, 300);
-}
-
-TEST_F(PrintPageTest, CalcSliceSharesTheGapAmongTheSpacesOfTheRest) {
-  Lines(Page("x"));
-  EXPECT_EQ(composer.CalcSlice(400, "ab cd ef", 1000, 400), (1000 - 80) / 2.0);
-  EXPECT_EQ(composer.CalcSlice(400,
-                               "\x80"
-                               "ab\x81 cd",
-                               1000, 400),
-            1000 - (60 + 10 + 20));
-  EXPECT_EQ(composer.CalcSlice(400, "abcd", 1000, 400), 0);
-}
-
-TEST(PrintPageCleaned, RemovesCodes128To136Only) {
-  EXPECT_EQ(clsPrintPage::Cleaned("\x7f\x80"
-                                  "a\x84\x88\x89"),
-            "\x7f"
-            "a\x89");
 }
 
 }  // namespace

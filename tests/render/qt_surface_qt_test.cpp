@@ -5,8 +5,6 @@
 #include <QFontInfo>
 #include <QRect>
 
-#include "layout/font_metrics.h"
-
 #include <memory>
 
 namespace vireo {
@@ -48,31 +46,6 @@ TEST(QtSurface, WidthsAreTwipsOfTheAdvanceAndAddUpOverARun) {
   EXPECT_DOUBLE_EQ(surface.TextWidth("AV"), surface.TextWidth("A") + surface.TextWidth("V"));
   // 12 points at 96 dpi is 16 pixels: an em dash (code 151) is one em.
   EXPECT_NEAR(surface.TextWidth("\x97"), 16 * 15, 15);
-}
-
-TEST(QtSurface, BoldIsWiderThanPlainAndUnderlineChangesNothing) {
-  auto surface_owner = BookSurface();
-  QtSurface& surface = *surface_owner;
-  const double plain = surface.TextWidth("Hello world");
-  surface.SetFontUnderline(true);
-  EXPECT_DOUBLE_EQ(surface.TextWidth("Hello world"), plain);
-  surface.SetFontUnderline(false);
-  surface.SetFontBold(true);
-  EXPECT_GT(surface.TextWidth("Hello world"), plain);
-}
-
-TEST(QtSurface, FontTablesFromTheSurface) {
-  auto surface_owner = BookSurface();
-  QtSurface& surface = *surface_owner;
-  clsFontMetrics metrics;
-  metrics.MakeArrays(surface);
-  EXPECT_TRUE(surface.FontBold());
-  EXPECT_TRUE(surface.FontItalic());
-  surface.SetFontBold(false);
-  surface.SetFontItalic(false);
-  EXPECT_DOUBLE_EQ(metrics.WordWidth(false, false, "Reader"), surface.TextWidth("Reader"));
-  EXPECT_GT(metrics.CharWidth(true, false, "m"), metrics.CharWidth(false, false, "m"));
-  EXPECT_EQ(metrics.CharWidth(false, false, "\n"), 0);
 }
 
 TEST(QtSurface, TextIsDrawnInTheInkColourOnlyWithinItsLine) {
@@ -133,19 +106,6 @@ TEST(QtSurface, GeometryIsInTwipsOfLogicalPixels) {
   EXPECT_EQ(surface.image().width(), 400);
   EXPECT_DOUBLE_EQ(surface.ScaleWidth(), 3000);
   EXPECT_DOUBLE_EQ(surface.ScaleHeight(), 1500);
-}
-
-TEST(QtSurface, DrawingIsDeterministic) {
-  auto first_owner = BookSurface();
-  QtSurface& first = *first_owner;
-  auto second_owner = BookSurface();
-  QtSurface& second = *second_owner;
-  for (QtSurface* surface : {&first, &second}) {
-    surface->Clear();
-    surface->SetFontItalic(true);
-    surface->DrawText("The quick brown fox \x96 \x80 5");
-  }
-  EXPECT_EQ(first.image(), second.image());
 }
 
 TEST(QtSurface, DrawsOnTheCallersImage) {

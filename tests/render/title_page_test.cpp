@@ -83,14 +83,6 @@ TEST_F(TitlePageTest, SinglePageShowsWelcomeAndHintsOnTheOnePage) {
   EXPECT_EQ(below->x, (6000 - 100.0 * folder_line.size()) / 2);
 }
 
-TEST_F(TitlePageTest, AWidePageKeepsTheCreditLineAtTenPoints) {
-  left.width = 7000;  // 0.8 x 7000 = 5600
-  DrawTitlePage(left, left, kInk, 1500, 1200);
-  const auto* credit = FindRun(left, kCredit);
-  ASSERT_NE(credit, nullptr);
-  EXPECT_EQ(credit->font_size, 10);
-}
-
 TEST_F(TitlePageTest, DoublePageShowsWelcomeOnTheRightAndHintsOnTheLeft) {
   left.DrawText("previous page");
   DrawTitlePage(right, left, kInk, 1500, 1200);

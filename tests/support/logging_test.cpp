@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <regex>
-
 #include "test_support.h"
 
 namespace vireo {
@@ -85,64 +83,6 @@ TEST_F(LoggingTest, The41stEntryListsThePrevious40AndStartsAgainAtSlot1) {
   EXPECT_EQ(log.find("entry 41"), std::string::npos);
   EXPECT_EQ(Actions().position, 1);
   EXPECT_EQ(Actions().text[1], "entry 41");
-}
-
-TEST_F(LoggingTest, ListingWalksFromTheOldestSlotAndSkipsEmptyOnes) {
-  for (int i = 1; i <= 3; ++i) LogProc("entry " + std::to_string(i), "", "");
-  ListActions();
-  const std::string log = Log();
-  // The ring is walked from the slot after the current one round to the slot
-  // before it: the newest entry (slot 3) is not part of the listing.
-  EXPECT_NE(log.find(" >> 1: entry 1"), std::string::npos);
-  EXPECT_NE(log.find(" >> 2: entry 2"), std::string::npos);
-  EXPECT_EQ(log.find(" >> 3:"), std::string::npos);
-  EXPECT_EQ(log.find(" >> 4:"), std::string::npos);
-}
-
-TEST_F(LoggingTest, DebugEntriesWrapWithoutListing) {
-  for (int i = 1; i <= 41; ++i) LogDebug("d", "", "");
-  EXPECT_FALSE(test::FileExists(folder_.File("log.txt")));
-  EXPECT_EQ(Actions().position, 1);
-}
-
-TEST_F(LoggingTest, AnUnwritableLogIsIgnored) {
-  SetLogFolder(folder_.File("no/such/folder"));
-  EXPECT_NO_THROW(LogAction("Startup", LogFile::kNew));
-  EXPECT_NO_THROW(ListActions());
-}
-
-TEST(LogFilePath, AddsASeparatorOnlyWhenTheFolderLacksOne) {
-  EXPECT_EQ(LogFilePath("/opt/vireo"), "/opt/vireo/log.txt");
-  EXPECT_EQ(LogFilePath("/"), "/log.txt");
-  EXPECT_EQ(LogFilePath("C:\\"), "C:\\log.txt");
-}
-
-TEST(FOSName, FollowsTheVersionTable) {
-  using P = OsVersionInfo::Platform;
-  struct Case {
-    P platform;
-    int major, minor;
-    const char* name;
-  } cases[] = {
-      {P::kWindowsNt, 10, 0, "WINNT6+"}, {P::kWindowsNt, 7, 3, "WINNT6+"},
-      {P::kWindowsNt, 6, 1, ""},         {P::kWindowsNt, 5, 0, "Win2K"},
-      {P::kWindowsNt, 5, 1, "WinXP"},    {P::kWindowsNt, 5, 2, "WinXP"},
-      {P::kWindowsNt, 4, 0, "WinNT"},    {P::kWindowsNt, 3, 51, "WinNT"},
-      {P::kWindows9x, 4, 10, "Win98"},   {P::kWindows9x, 4, 0, "Win95"},
-      {P::kWindows9x, 4, 90, "WinME"},   {P::kWindows9x, 4, 3, "WIN32"},
-      {P::kUnknown, 0, 0, ""},
-  };
-  for (const Case& c : cases) {
-    EXPECT_EQ(FOSName({c.platform, c.major, c.minor, ""}), c.name) << c.major << "." << c.minor;
-  }
-  EXPECT_EQ(FOSName({P::kOther, 0, 0, "Linux 6.1"}), "Linux 6.1");
-}
-
-TEST(FOSName, NamesTheRunningKernel) {
-#if !defined(_WIN32)
-  EXPECT_TRUE(std::regex_match(FOSName(), std::regex("\\S+ \\S+"))) << FOSName();
-#endif
-  EXPECT_TRUE(std::regex_match(AppVersion(), std::regex("\\d+\\.\\d+\\.\\d+")));
 }
 
 }  // namespace
