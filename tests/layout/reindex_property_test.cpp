@@ -1,21 +1,29 @@
 // The linear paginator against the literal one (literal_paginator.h) on many
 // random texts, font tables and page geometries: identical page index, text
-// insertions, events and yields.
+// insertions, events and yields. And, on ordinary prose, the shape every
+// page index must have.
 
 #include <gtest/gtest.h>
 
 #include <random>
 
-#include "fake_pump.h"
 #include "layout/reindex.h"
 #include "literal_paginator.h"
 #include "pagination_fixtures.h"
+#include "support/user_interaction.h"
 
 namespace vireo {
 namespace {
 
 using test::EventRecorder;
 using test::LiteralPaginator;
+
+class CountingPump : public MessagePump {
+ public:
+  void Yield() override { ++yields; }
+  void SleepMilliseconds(int) override {}
+  int yields = 0;
+};
 
 struct Case {
   std::string text;
@@ -43,7 +51,7 @@ Outcome RunFast(const Case& c) {
   clsReindex reindex;
   reindex.FontMetrics() = c.metrics;
   EventRecorder recorder(out.index, [&] { return reindex.Busy(); });
-  test::RecordingPump pump;
+  CountingPump pump;
   reindex.SetEvents(&recorder);
   reindex.SetMessagePump(&pump);
   reindex.SetImageHeights(c.heights);
@@ -182,6 +190,61 @@ TEST(ReindexProperties, LinearPaginatorMatchesTheLiteralRules) {
     const Case c = generator.AnyCase();
     ExpectSame(RunFast(c), RunLiteral(c), i);
     if (HasFatalFailure()) return;
+  }
+}
+
+// Prose whose words all fit a line, without hyphens, images, page breaks or a
+// delimiter in front: the index then has its plain shape. (Long words split
+// over several pages, hyphenated runs and images may repeat a start; a page
+// opened by the first word starts at 0. Those are rules, not faults.)
+TEST(ReindexProperties, OrdinaryProseGivesIncreasingStartsOnDelimitersCoveringTheText) {
+  Generator generator(77);
+  for (int i = 0; i < 400; ++i) {
+    SCOPED_TRACE("case " + std::to_string(i));
+    Case c;
+    const int words = generator.Int(2, 300);
+    for (int w = 0; w < words; ++w) {
+      if (w > 0) c.text += generator.Chance(8) ? " \n " : " ";
+      if (w > 0 && generator.Chance(10)) c.text += static_cast<char>(generator.Int(128, 136));
+      c.text += generator.Letters(generator.Int(1, 10));
+      if (c.text.back() == '\x86') c.text += 'a';
+    }
+    for (char& ch : c.text) {
+      if (ch == '\x86') ch = 'z';
+    }
+    c.metrics = generator.Metrics(false);
+    double widest = 0;
+    for (int style = 0; style < 4; ++style) {
+      for (double width : c.metrics.Table(style & 1, style & 2)) widest = std::max(widest, width);
+    }
+    c.line_width = widest * (12 + generator.Int(0, 40));
+    c.lines_per_page = static_cast<int16_t>(generator.Int(1, 12));
+    c.first_page = generator.Chance(30) ? 2 : 1;
+    c.reading_position = generator.Int(1, static_cast<int>(c.text.size()));
+
+    const Outcome fast = RunFast(c);
+    ExpectSame(fast, RunLiteral(c), i);
+    const PageIndex& index = fast.index;
+    const auto length = static_cast<int32_t>(c.text.size());
+    ASSERT_EQ(fast.text, c.text);
+    if (c.first_page == 2) {
+      ASSERT_EQ(index.PageStart(1), 0);
+    }
+    ASSERT_EQ(index.PageStart(c.first_page), 1);
+    for (int32_t p = c.first_page + 1; p <= index.count; ++p) {
+      const int32_t start = index.PageStart(p);
+      ASSERT_GT(start, index.PageStart(p - 1)) << "page " << p;
+      ASSERT_LE(start, length) << "page " << p;
+      if (p < index.count || start < length) {
+        const char at = c.text[static_cast<size_t>(start - 1)];
+        ASSERT_TRUE(at == ' ' || at == '\n') << "page " << p << " starts on a word";
+      }
+    }
+    // PassedPage exactly once, before FinishedReindex which comes last.
+    ASSERT_EQ(std::count_if(fast.events.begin(), fast.events.end(),
+                            [](const std::string& e) { return e.rfind("passed", 0) == 0; }),
+              1);
+    ASSERT_EQ(fast.events.back(), "finished at " + std::to_string(index.count));
   }
 }
 
