@@ -1,8 +1,10 @@
 #include "render/qt_surface_qt.h"
 
 #include <QGlyphRun>
+
 #include <QPainter>
 #include <QString>
+#include <tuple>
 
 #include "support/windows1252.h"
 
@@ -52,18 +54,16 @@ QColor QtSurface::ColorFromBgr(uint32_t bgr) {
 
 void QtSurface::FontChanged() { metrics_.reset(); }
 
-void QtSurface::FaceChanged() {
-  for (auto& table : glyph_tables_) table.reset();
-  FontChanged();
-}
-
 // Glyph and advance of every Windows-1252 character in the current style,
-// made once per face, size and style: drawing a run is then table look-ups
+// made once per face, size and style and kept (a page switches between the
+// book's size and the page number's): drawing a run is then table look-ups
 // and one glyph run, without shaping the text again.
 const QtSurface::GlyphTable& QtSurface::Glyphs() const {
-  auto& table = glyph_tables_[(font_.bold() ? 1 : 0) + (font_.italic() ? 2 : 0)];
-  if (table) return *table;
-  table.emplace();
+  const GlyphKey key{font_.family(), font_.pointSizeF(),
+                     (font_.bold() ? 1 : 0) + (font_.italic() ? 2 : 0)};
+  auto found = glyph_tables_.find(key);
+  if (found != glyph_tables_.end()) return found->second;
+  GlyphTable* table = &glyph_tables_[key];
   table->raw = QRawFont::fromFont(font_);
   QString characters;
   for (int code = 0; code < 256; ++code) {
@@ -78,6 +78,10 @@ const QtSurface::GlyphTable& QtSurface::Glyphs() const {
   return *table;
 }
 
+bool QtSurface::GlyphKey::operator<(const GlyphKey& other) const {
+  return std::tie(family, points, style) < std::tie(other.family, other.points, other.style);
+}
+
 const QFontMetricsF& QtSurface::Metrics() const {
   // Measured on the image itself so that measuring and drawing use the same
   // resolution.
@@ -86,13 +90,16 @@ const QFontMetricsF& QtSurface::Metrics() const {
 }
 
 void QtSurface::SetFontName(std::string_view name) {
-  font_.setFamily(FromWindows1252(name));
-  FaceChanged();
+  const QString family = FromWindows1252(name);
+  if (family == font_.family()) return;
+  font_.setFamily(family);
+  FontChanged();
 }
 
 void QtSurface::SetFontSize(double points) {
-  if (points > 0) font_.setPointSizeF(points);
-  FaceChanged();
+  if (points <= 0 || points == font_.pointSizeF()) return;
+  font_.setPointSizeF(points);
+  FontChanged();
 }
 
 void QtSurface::SetFontBold(bool bold) {

@@ -5,6 +5,7 @@
 #include <QImage>
 #include <QRawFont>
 #include <array>
+#include <map>
 #include <memory>
 
 class QPainter;
@@ -97,7 +98,6 @@ class QtSurface : public Surface {
     std::array<qreal, 256> advances;  // logical pixels
   };
   void FontChanged();
-  void FaceChanged();
   const GlyphTable& Glyphs() const;
   QPainter& Painter();
   const QFontMetricsF& Metrics() const;
@@ -108,7 +108,13 @@ class QtSurface : public Surface {
   mutable std::optional<QFontMetricsF> metrics_;
   uint32_t back_color_ = 0x00FFFFFF;
   QImage texture_;
-  mutable std::array<std::optional<GlyphTable>, 4> glyph_tables_;  // plain, bold, italic, both
+  struct GlyphKey {
+    QString family;
+    qreal points;
+    int style;  // bold + 2 x italic
+    bool operator<(const GlyphKey& other) const;
+  };
+  mutable std::map<GlyphKey, GlyphTable> glyph_tables_;
   std::unique_ptr<QPainter> painter_;
 };
 
