@@ -1,6 +1,7 @@
 #include "layout/pagination_pass.h"
 
 #include <limits>
+#include <type_traits>
 
 #include "layout/long_word.h"
 #include "layout/reindex.h"
@@ -70,7 +71,65 @@ void PaginationPass::Run() {
     }
     CheckReadersPage();
     ReportProgress();
+    if (!end_of_text_) LayOutPlainWords();
   } while (!end_of_text_);
+}
+
+namespace {
+
+// Lays out, from index begin, the words that need nothing but their width
+// added to the line: words of at most 20 bytes without any code, hyphen or
+// line feed, ended by a blank, that fit on the current line (line_width, of
+// at most limit). Widths are summed byte by byte in text order, as ReadWord
+// does. Returns the index of the first word not laid out; line_width then
+// holds the width of the line so far.
+template <typename Sum>
+VIREO_HOT_INLINE size_t LayOutPlainRun(const char* data, size_t begin, size_t size,
+                                       const Sum* table, double space, double limit,
+                                       double& line_width) {
+  const uint16_t* classes = ByteClasses().data();
+  double line = line_width;
+  for (;;) {
+    size_t i = begin;
+    Sum sum = 0;
+    for (; i < size; ++i) {
+      const auto code = static_cast<unsigned char>(data[i]);
+      if (classes[code] != 0) break;
+      sum += table[code];
+    }
+    if (i >= size || data[i] != ' ' || i - begin > kLongWordLength) break;
+    double width = static_cast<double>(sum);
+    if constexpr (!std::is_floating_point_v<Sum>) width /= StyleTables::kUnitsPerTwip;
+    width += space;
+    if (line + width > limit) break;
+    line += width;
+    begin = i + 1;
+  }
+  line_width = line;
+  return begin;
+}
+
+}  // namespace
+
+// The common case of the word loop without its per-word bookkeeping: plain
+// words that fit on the line only add their width to it. Nothing any other
+// step reads changes for them: the reader's page check would find what it
+// found after the last word, and progress is left to the full loop while it
+// has a page number to report after every word.
+void PaginationPass::LayOutPlainWords() {
+  if (leftover_pending_ || newline_) return;
+  if (index_.count % kProgressStep == 0 && owner_.events_ != nullptr) return;
+  const size_t begin = static_cast<size_t>(scan_ - 1);
+  const double space = Table()[static_cast<unsigned char>(' ')];
+  size_t next;
+  if (tables_.exact()) {
+    next = LayOutPlainRun(text_.data(), begin, text_.size(), tables_.UnitsFor(bold_, italic_),
+                          space, settings_.line_width, line_width_);
+  } else {
+    next = LayOutPlainRun(text_.data(), begin, text_.size(), Table(), space, settings_.line_width,
+                          line_width_);
+  }
+  scan_ = static_cast<int64_t>(next) + 1;
 }
 
 std::string_view PaginationPass::View(const WordRange& range) const {

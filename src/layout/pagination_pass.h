@@ -46,6 +46,9 @@ class PaginationPass {
     bool zero = false;
   };
 
+  // Lays out the plain words that follow while they fit on the line, as the
+  // full loop would, with the loop state in locals.
+  void LayOutPlainWords();
   void TakeNextWord();
   void TakeLeftover();
   void TakeWordFromText();
