@@ -1,10 +1,11 @@
 #include "layout/pagination_pass.h"
 
+#include <cmath>
 #include <limits>
-#include <type_traits>
 
 #include "layout/long_word.h"
 #include "layout/reindex.h"
+#include "layout/word_run.h"
 #include "support/error_trap.h"
 
 // The word loop's two hottest steps are worth inlining into it.
@@ -52,6 +53,20 @@ PaginationPass::PaginationPass(clsReindex& owner, std::string& text, PageIndex& 
     : owner_(owner), text_(text), index_(index), settings_(settings), cursor_(text) {
   tables_.Load(owner.metrics_, text.size());
   split_last_.fill(kNone);
+  run_rules_ = OrdinaryRunRules();
+}
+
+// Runs of ordinary words compare whole units with the line width: a sum of
+// units is wider than the line exactly when it exceeds the line width's
+// units rounded down. Without exact tables, or for a line width far outside
+// any sum, the word loop does all the work.
+std::optional<RunRules> PaginationPass::OrdinaryRunRules() const {
+  const double limit = std::floor(settings_.line_width * StyleTables::kUnitsPerTwip);
+  if (!tables_.exact() || !(std::fabs(limit) < 0x1p62)) return std::nullopt;
+  RunRules rules;
+  rules.limit = static_cast<int64_t>(limit);
+  rules.lines_per_page = settings_.lines_per_page;
+  return rules;
 }
 
 void PaginationPass::Run() {
@@ -75,61 +90,30 @@ void PaginationPass::Run() {
   } while (!end_of_text_);
 }
 
-namespace {
-
-// Lays out, from index begin, the words that need nothing but their width
-// added to the line: words of at most 20 bytes without any code, hyphen or
-// line feed, ended by a blank, that fit on the current line (line_width, of
-// at most limit). Widths are summed byte by byte in text order, as ReadWord
-// does. Returns the index of the first word not laid out; line_width then
-// holds the width of the line so far.
-template <typename Sum>
-VIREO_HOT_INLINE size_t LayOutPlainRun(const char* data, size_t begin, size_t size,
-                                       const Sum* table, double space, double limit,
-                                       double& line_width) {
-  const uint16_t* classes = ByteClasses().data();
-  double line = line_width;
-  for (;;) {
-    size_t i = begin;
-    Sum sum = 0;
-    for (; i < size; ++i) {
-      const auto code = static_cast<unsigned char>(data[i]);
-      if (classes[code] != 0) break;
-      sum += table[code];
-    }
-    if (i >= size || data[i] != ' ' || i - begin > kLongWordLength) break;
-    double width = static_cast<double>(sum);
-    if constexpr (!std::is_floating_point_v<Sum>) width /= StyleTables::kUnitsPerTwip;
-    width += space;
-    if (line + width > limit) break;
-    line += width;
-    begin = i + 1;
-  }
-  line_width = line;
-  return begin;
-}
-
-}  // namespace
-
-// The common case of the word loop without its per-word bookkeeping: plain
-// words that fit on the line only add their width to it. Nothing any other
-// step reads changes for them: the reader's page check would find what it
-// found after the last word, and progress is left to the full loop while it
-// has a page number to report after every word.
+// The common case of the word loop without its per-word bookkeeping: for
+// ordinary words the loop only places them on the line. Nothing any other
+// step reads changes for them: the page count stays (the run stops in front
+// of the word that completes a page), so the reader's page check would find
+// what it found after the last word; progress is left to the full loop while
+// it has a page number to report after every word. The run adds widths in
+// whole units, so it needs tables whose sums are exact.
 void PaginationPass::LayOutPlainWords() {
-  if (leftover_pending_ || newline_) return;
+  if (leftover_pending_ || newline_ || !run_rules_) return;
   if (index_.count % kProgressStep == 0 && owner_.events_ != nullptr) return;
-  const size_t begin = static_cast<size_t>(scan_ - 1);
-  const double space = Table()[static_cast<unsigned char>(' ')];
-  size_t next;
-  if (tables_.exact()) {
-    next = LayOutPlainRun(text_.data(), begin, text_.size(), tables_.UnitsFor(bold_, italic_),
-                          space, settings_.line_width, line_width_);
-  } else {
-    next = LayOutPlainRun(text_.data(), begin, text_.size(), Table(), space, settings_.line_width,
-                          line_width_);
-  }
+  const double line_units = line_width_ * StyleTables::kUnitsPerTwip;
+  RunRules rules = *run_rules_;
+  rules.units = tables_.UnitsFor(bold_, italic_);
+  rules.space = rules.units[static_cast<unsigned char>(' ')];
+  RunLine line{static_cast<int64_t>(line_units), line_count_.value(), false};
+  if (static_cast<double>(line.width) != line_units) return;
+  const size_t next = LayOutOrdinaryWords(text_, static_cast<size_t>(scan_ - 1), rules, line);
   scan_ = static_cast<int64_t>(next) + 1;
+  line_width_ = static_cast<double>(line.width) / StyleTables::kUnitsPerTwip;
+  line_count_ = Int16(line.lines);
+  if (line.broken) {
+    page_marks_.Append(line_marks_);
+    line_marks_.Clear();
+  }
 }
 
 std::string_view PaginationPass::View(const WordRange& range) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -8,6 +9,7 @@
 
 #include "layout/page_index.h"
 #include "layout/text_cursor.h"
+#include "layout/word_run.h"
 #include "layout/word_scan.h"
 #include "support/checked_int16.h"
 
@@ -46,9 +48,10 @@ class PaginationPass {
     bool zero = false;
   };
 
-  // Lays out the plain words that follow while they fit on the line, as the
-  // full loop would, with the loop state in locals.
+  // Lays out the ordinary words that follow, as the full loop would, with
+  // the loop state in locals.
   void LayOutPlainWords();
+  std::optional<RunRules> OrdinaryRunRules() const;
   void TakeNextWord();
   void TakeLeftover();
   void TakeWordFromText();
@@ -77,6 +80,7 @@ class PaginationPass {
   StyleTables tables_;
   TextCursor cursor_;
   std::vector<double> scratch_;
+  std::optional<RunRules> run_rules_;
 
   int64_t scan_ = 1;  // 1-based scan position
   WordRange word_;
