@@ -141,30 +141,42 @@ double QtSurface::ScaleHeight() const {
   return image_->deviceIndependentSize().height() * kTwipsPerPixel;
 }
 
+// Runs in one face and colour are gathered with their positions on the
+// image and drawn together: a page is then a few glyph runs instead of one
+// per word. An underlined run is drawn on its own, so that its line spans
+// that run only.
 void QtSurface::DrawText(std::string_view text) {
   if (text.empty()) return;
   const GlyphTable& table = Glyphs();
-  QList<quint32> glyphs;
-  QList<QPointF> positions;
-  glyphs.reserve(static_cast<qsizetype>(text.size()));
-  positions.reserve(static_cast<qsizetype>(text.size()));
+  const QColor colour = ColorFromBgr(ForeColor());
+  if (pending_.table != &table || pending_.colour != colour) DrawPendingGlyphs();
+  pending_.table = &table;
+  pending_.colour = colour;
+  const QPointF origin(CurrentX() / kTwipsPerPixel, CurrentY() / kTwipsPerPixel + Metrics().ascent());
   qreal x = 0;
   for (char c : text) {
     const auto code = static_cast<uint8_t>(c);
-    glyphs.append(table.glyphs[code]);
-    positions.append(QPointF(x, 0));
+    pending_.glyphs.append(table.glyphs[code]);
+    pending_.positions.append(origin + QPointF(x, 0));
     x += table.advances[code];
   }
-  QGlyphRun run;
-  run.setRawFont(table.raw);
-  run.setGlyphIndexes(glyphs);
-  run.setPositions(positions);
-  run.setUnderline(font_.underline());
-  QPainter& painter = Painter();
-  painter.setPen(ColorFromBgr(ForeColor()));
-  painter.drawGlyphRun(
-      QPointF(CurrentX() / kTwipsPerPixel, CurrentY() / kTwipsPerPixel + Metrics().ascent()), run);
+  if (font_.underline()) DrawPendingGlyphs(true);
   SetCurrentX(CurrentX() + x * kTwipsPerPixel);
+}
+
+void QtSurface::DrawPendingGlyphs(bool underline) {
+  if (pending_.glyphs.isEmpty()) return;
+  QGlyphRun run;
+  run.setRawFont(pending_.table->raw);
+  run.setGlyphIndexes(pending_.glyphs);
+  run.setPositions(pending_.positions);
+  run.setUnderline(underline);
+  QPainter& painter = Painter();
+  painter.setPen(pending_.colour);
+  painter.drawGlyphRun(QPointF(0, 0), run);
+  run = QGlyphRun();  // the lists are reused, unshared
+  pending_.glyphs.clear();
+  pending_.positions.clear();
 }
 
 // One painter serves a whole page of runs; it is ended before anything else
@@ -174,9 +186,13 @@ QPainter& QtSurface::Painter() {
   return *painter_;
 }
 
-void QtSurface::EndPainting() { painter_.reset(); }
+void QtSurface::EndPainting() {
+  DrawPendingGlyphs();
+  painter_.reset();
+}
 
 void QtSurface::DrawPicture(const QImage& picture, double x_twips, double y_twips) {
+  DrawPendingGlyphs();
   Painter().drawImage(QPointF(x_twips / kTwipsPerPixel, y_twips / kTwipsPerPixel), picture);
 }
 

@@ -100,6 +100,7 @@ class QtSurface : public Surface {
   void FontChanged();
   const GlyphTable& Glyphs() const;
   QPainter& Painter();
+  void DrawPendingGlyphs(bool underline = false);
   const QFontMetricsF& Metrics() const;
 
   QImage own_image_;
@@ -116,6 +117,14 @@ class QtSurface : public Surface {
   };
   mutable std::map<GlyphKey, GlyphTable> glyph_tables_;
   std::unique_ptr<QPainter> painter_;
+  // Text drawn but not yet on the image (see DrawText).
+  struct PendingGlyphs {
+    const GlyphTable* table = nullptr;
+    QColor colour;
+    QList<quint32> glyphs;
+    QList<QPointF> positions;
+  };
+  PendingGlyphs pending_;
 };
 
 }  // namespace vireo

@@ -77,6 +77,41 @@ TEST(QtSurface, TextIsDrawnInTheInkColourOnlyWithinItsLine) {
   EXPECT_TRUE(red);
 }
 
+// Runs are gathered and drawn together; each must still keep its own
+// colour, and an underline must not bridge the gap to the next run.
+TEST(QtSurface, RunsKeepTheirColoursAndTheirOwnUnderlines) {
+  auto surface_owner = BookSurface();
+  QtSurface& surface = *surface_owner;
+  surface.Clear();
+  surface.SetForeColor(0x000000FF);  // red
+  surface.DrawText("MMM");
+  surface.SetForeColor(0x00FF0000);  // blue
+  surface.DrawText("MMM");
+  surface.SetForeColor(0);
+  surface.SetFontUnderline(true);
+  surface.SetCurrentX(0);
+  surface.SetCurrentY(600);
+  surface.DrawText("MM");
+  const double gap_left = surface.CurrentX();
+  surface.SetCurrentX(gap_left + 900);
+  surface.DrawText("MM");
+  const QImage& image = surface.image();
+
+  const int third = static_cast<int>(surface.TextWidth("MMM") / 15);
+  const QRect red_word = InkBounds(image.copy(0, 0, third, 20), qRgb(255, 255, 255));
+  const QRect blue_word = InkBounds(image.copy(third, 0, third, 20), qRgb(255, 255, 255));
+  ASSERT_FALSE(red_word.isNull());
+  ASSERT_FALSE(blue_word.isNull());
+  EXPECT_GT(image.pixelColor(red_word.center()).red(), 200);
+  EXPECT_GT(image.pixelColor(third + blue_word.center().x(), blue_word.center().y()).blue(), 200);
+
+  const int gap = static_cast<int>(gap_left / 15) + 30;
+  const QRect under_gap = InkBounds(image.copy(gap, 40, 20, 30), qRgb(255, 255, 255));
+  const QRect under_word = InkBounds(image.copy(5, 40, 20, 30), qRgb(255, 255, 255));
+  EXPECT_TRUE(under_gap.isNull()) << "underline across the gap";
+  EXPECT_FALSE(under_word.isNull());
+}
+
 TEST(QtSurface, TextIsDrawnTransparently) {
   auto surface_owner = BookSurface(100, 40);
   QtSurface& surface = *surface_owner;
