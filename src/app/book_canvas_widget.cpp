@@ -112,7 +112,7 @@ QRectF BookCanvasWidget::FrameRect(int frame) const {
 
 void BookCanvasWidget::RefreshBox(int box) {
   if (box > 3 || (box % 2 == 1 && !layout_.right_frame_visible)) return;
-  repaint(FrameRect(box % 2).toAlignedRect());
+  update(FrameRect(box % 2).toAlignedRect());
 }
 
 void BookCanvasWidget::PaintFrame(QPainter& painter, int frame) const {

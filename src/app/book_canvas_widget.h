@@ -51,7 +51,9 @@ class BookCanvasWidget : public QWidget {
   void SetBoxVisible(int box, bool visible);
   bool BoxVisible(int box) const { return boxes_[box].visible; }
   void RaiseBox(int box);
-  // Repaints the box's frame at once when the box is on show.
+  // Marks the box's frame for repainting when the box is on show. Frames
+  // marked by the steps of one turn are painted together: at the next yield,
+  // lamp change or return to the event loop.
   void RefreshBox(int box);
 
   // A translucent band over lines of a page (page -1: none), in twips from

@@ -74,7 +74,7 @@ class MainWindowView {
   virtual void SetBoxLeft(int box, double twips) = 0;
   virtual void SetBoxVisible(int box, Visibility visibility) = 0;
   virtual void RaiseBox(int box) = 0;
-  // Shows what has been drawn into a box, at once.
+  // Shows what has been drawn into a box, with the next repaint.
   virtual void RefreshBox(int box) = 0;
   virtual void SetLamp(Lamp lamp) = 0;
 
