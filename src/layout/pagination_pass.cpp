@@ -86,7 +86,7 @@ void PaginationPass::Run() {
     }
     CheckReadersPage();
     ReportProgress();
-    if (!end_of_text_) LayOutPlainWords();
+    if (!end_of_text_) LayOutOrdinaryRun();
   } while (!end_of_text_);
 }
 
@@ -97,10 +97,11 @@ void PaginationPass::Run() {
 // what it found after the last word; progress is left to the full loop while
 // it has a page number to report after every word. The run adds widths in
 // whole units, so it needs tables whose sums are exact.
-void PaginationPass::LayOutPlainWords() {
+void PaginationPass::LayOutOrdinaryRun() {
   if (leftover_pending_ || newline_ || !run_rules_) return;
   if (index_.count % kProgressStep == 0 && owner_.events_ != nullptr) return;
   const double line_units = line_width_ * StyleTables::kUnitsPerTwip;
+  if (!(std::fabs(line_units) < 0x1p62)) return;
   RunRules rules = *run_rules_;
   rules.units = tables_.UnitsFor(bold_, italic_);
   rules.space = rules.units[static_cast<unsigned char>(' ')];

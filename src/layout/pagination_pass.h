@@ -50,7 +50,7 @@ class PaginationPass {
 
   // Lays out the ordinary words that follow, as the full loop would, with
   // the loop state in locals.
-  void LayOutPlainWords();
+  void LayOutOrdinaryRun();
   std::optional<RunRules> OrdinaryRunRules() const;
   void TakeNextWord();
   void TakeLeftover();
