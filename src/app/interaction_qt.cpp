@@ -83,7 +83,10 @@ bool StderrInteraction::AskYesNo(std::string_view question, std::string_view tit
 
 void QtMessagePump::Yield() { QCoreApplication::processEvents(); }
 
+// A pause in an animation shows the step drawn before it: frames waiting to
+// be painted are painted first, without handling any other event.
 void QtMessagePump::SleepMilliseconds(int milliseconds) {
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest);
   if (pause_observer_) pause_observer_();
   if (milliseconds > 0) QThread::msleep(static_cast<unsigned long>(milliseconds));
 }
