@@ -39,23 +39,30 @@ const std::string kDetails =
     "F4\xA9";
 
 TEST(clsBIN, UnpacksAHandBuiltBodyWithItsDetails) {
-  Recorded run;
-  run.bin.set_header_block("header");
-  run.bin.set_body(HandPackedBody("Hello", "World", kDetails));
-  run.bin.ConvertLoadedBRN();
-  EXPECT_EQ(run.bin.result_text(), "HelloWorld");
-  EXPECT_EQ(run.bin.details().author, "Ann");
-  EXPECT_EQ(run.bin.details().title, "Tit");
-  EXPECT_EQ(run.bin.detail_block(),
-            "\xA9"
-            "Ann\xA9"
-            "F2\xA9"
-            "Tit\xA9"
-            "F4");
-  EXPECT_EQ(run.bin.header_block(), "");
-  EXPECT_EQ(run.events,
-            (std::vector<Progress>{
-                {"Unpacking", 30, 100}, {"Reformatting Text", 50, 100}, {"Finishing", 80, 100}}));
+  const struct {
+    std::string details, title, logged;
+  } cases[] = {
+      {kDetails, "Tit", ""},
+      {"\xA9"
+       "Ann\xA9"
+       "F2\xA9",
+       "", "Invalid procedure call or argument in sub decodedetails(5) of module clsBIN"},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.title);
+    LogCapture log;
+    clsBIN bin;
+    bin.set_header_block("header");
+    bin.set_body(HandPackedBody("Hello", "World", c.details));
+    bin.ConvertLoadedBRN();
+    EXPECT_EQ(bin.result_text(), "HelloWorld");
+    EXPECT_EQ(bin.details().author, "Ann");
+    EXPECT_EQ(bin.details().title, c.title);
+    EXPECT_EQ(bin.detail_block(), c.details.substr(0, c.details.size() - 1));
+    EXPECT_EQ(bin.header_block(), "");
+    EXPECT_EQ(LogCapture::Entries(),
+              c.logged.empty() ? std::vector<std::string>{} : std::vector<std::string>{c.logged});
+  }
 }
 
 TEST(clsBIN, WordCodesExpandWithTheirQuirks) {
@@ -91,37 +98,6 @@ TEST(clsBIN, AnOverflowInDescramblingLeavesTheRestAsItIs) {
             std::vector<std::string>{"Overflow in sub decodebin(6) of module clsBIN"});
 }
 
-TEST(clsBIN, MissingTitleFieldKeepsTheAuthor) {
-  LogCapture log;
-  clsBIN bin;
-  bin.set_body(HandPackedBody("Hello", "World",
-                              "\xA9"
-                              "Ann\xA9"
-                              "F2\xA9"));
-  bin.ConvertLoadedBRN();
-  EXPECT_EQ(bin.details().author, "Ann");
-  EXPECT_EQ(bin.details().title, "");
-  EXPECT_EQ(bin.result_text(), "HelloWorld");
-  EXPECT_EQ(LogCapture::Entries(),
-            std::vector<std::string>{
-                "Invalid procedure call or argument in sub decodedetails(5) of module clsBIN"});
-}
-
-TEST(clsBIN, ReadsABrnFileAndTakesItsFolder) {
-  test::TempFolder folder;
-  const std::string path = folder.File("book.brn");
-  test::WriteFile(path, HandPackedBody("one\r", "two", kDetails));
-  Recorded run(FormattingOptions{false, false, false});
-  run.bin.ConvertAndLoadBRN(path);
-  EXPECT_EQ(run.bin.result_text(), "one \n two");
-  EXPECT_EQ(run.bin.details().title, "Tit");
-  EXPECT_EQ(run.bin.book_folder(), folder.str() + "/");
-  EXPECT_EQ(run.events, (std::vector<Progress>{{"Reading BRN file", 20, 100},
-                                               {"Unpacking", 30, 100},
-                                               {"Reformatting Text", 60, 100},
-                                               {"Finishing", 80, 100}}));
-}
-
 // A BFL header: 1000 characters stored with 50 added, starting with 250.
 std::string BflHeader(const std::string& details) {
   std::string header = std::string(1, '\xC8') + "pad" + details;
@@ -130,19 +106,31 @@ std::string BflHeader(const std::string& details) {
   return header;
 }
 
-TEST(clsBIN, ReadsABflFileWithItsHeader) {
+TEST(clsBIN, ReadsBrnAndBflFiles) {
   test::TempFolder folder;
-  const std::string path = folder.File("book.bfl");
-  test::WriteFile(path, BflHeader(kDetails) + HandScramble("Plain"));
-  Recorded run;
-  run.bin.ConvertAndLoadBFL(path);
-  EXPECT_EQ(run.bin.result_text(), "Plain");
-  EXPECT_EQ(run.bin.details().author, "Ann");
-  EXPECT_EQ(run.bin.details().title, "Tit");
-  EXPECT_EQ(run.events, (std::vector<Progress>{{"Reading file", 10, 100},
-                                               {"Unpacking", 50, 100},
-                                               {"Reformatting Text", 70, 100},
-                                               {"Finishing", 90, 100}}));
+  const std::string brn = folder.File("book.brn");
+  test::WriteFile(brn, HandPackedBody("one\r", "two", kDetails));
+  Recorded brn_run(FormattingOptions{false, false, false});
+  brn_run.bin.ConvertAndLoadBRN(brn);
+  EXPECT_EQ(brn_run.bin.result_text(), "one \n two");
+  EXPECT_EQ(brn_run.bin.details().title, "Tit");
+  EXPECT_EQ(brn_run.bin.book_folder(), folder.str() + "/");
+  EXPECT_EQ(brn_run.events, (std::vector<Progress>{{"Reading BRN file", 20, 100},
+                                                   {"Unpacking", 30, 100},
+                                                   {"Reformatting Text", 60, 100},
+                                                   {"Finishing", 80, 100}}));
+
+  const std::string bfl = folder.File("book.bfl");
+  test::WriteFile(bfl, BflHeader(kDetails) + HandScramble("Plain"));
+  Recorded bfl_run;
+  bfl_run.bin.ConvertAndLoadBFL(bfl);
+  EXPECT_EQ(bfl_run.bin.result_text(), "Plain");
+  EXPECT_EQ(bfl_run.bin.details().author, "Ann");
+  EXPECT_EQ(bfl_run.bin.details().title, "Tit");
+  EXPECT_EQ(bfl_run.events, (std::vector<Progress>{{"Reading file", 10, 100},
+                                                   {"Unpacking", 50, 100},
+                                                   {"Reformatting Text", 70, 100},
+                                                   {"Finishing", 90, 100}}));
 }
 
 TEST(clsBIN, ABflHeaderBelowFiftyIsAnOverflowAndStaysInTheBody) {

@@ -86,15 +86,5 @@ TEST(ReplaceKnownChar, FastPassesMatchTheStepsOnRandomTexts) {
   }
 }
 
-TEST(ReplaceKnownChar, LongRunsOfBlanksAndLineEnds) {
-  std::string input = "start" + std::string(5000, ' ') + std::string(3000, '\r') + "\"" +
-                      std::string(4000, '\n') + std::string(1000, '"') + "end";
-  for (const FormattingOptions& options : test::AllFormattingOptions()) {
-    std::string expected = input;
-    test::ReplaceKnownCharStepByStep(expected, options);
-    EXPECT_EQ(Reformat(input, options), expected);
-  }
-}
-
 }  // namespace
 }  // namespace vireo

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <tuple>
 
 #include "layout/reindex.h"
 #include "literal_paginator.h"
@@ -173,11 +174,11 @@ void ExpectSame(const Outcome& fast, const Outcome& literal, int case_number) {
   SCOPED_TRACE("case " + std::to_string(case_number));
   ASSERT_EQ(fast.index.count, literal.index.count);
   ASSERT_EQ(fast.index.UpperBound(), literal.index.UpperBound());
+  const auto page = [](const PageIndex& index, int32_t p) {
+    return std::tuple(index.PageStart(p), index.Bold(p), index.Italic(p), index.Underline(p));
+  };
   for (int32_t p = 1; p <= fast.index.UpperBound(); ++p) {
-    ASSERT_EQ(fast.index.PageStart(p), literal.index.PageStart(p)) << "page " << p;
-    ASSERT_EQ(fast.index.Bold(p), literal.index.Bold(p)) << "page " << p;
-    ASSERT_EQ(fast.index.Italic(p), literal.index.Italic(p)) << "page " << p;
-    ASSERT_EQ(fast.index.Underline(p), literal.index.Underline(p)) << "page " << p;
+    ASSERT_EQ(page(fast.index, p), page(literal.index, p)) << "page " << p;
   }
   ASSERT_EQ(fast.text, literal.text);
   ASSERT_EQ(fast.events, literal.events);

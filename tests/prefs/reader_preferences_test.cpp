@@ -3,10 +3,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <map>
-#include <sstream>
+#include <algorithm>
 
 #include "prefs/settings_get_set.h"
+#include "prefs/shared_settings.h"
 #include "support/logging.h"
 #include "test_support.h"
 
@@ -58,18 +58,6 @@ class ReaderPreferencesTest : public ::testing::Test {
 
   void Read() { ReadSettings(prefs, host, system); }
 
-  // The settings file as key -> value.
-  static std::map<std::string, std::string> FileEntries(const std::string& path) {
-    std::map<std::string, std::string> entries;
-    std::istringstream lines(test::ReadFile(path));
-    for (std::string line; std::getline(lines, line);) {
-      if (!line.empty() && line.back() == '\r') line.pop_back();
-      const size_t comma = line.find(',');
-      if (comma != std::string::npos) entries[line.substr(0, comma)] = line.substr(comma + 1);
-    }
-    return entries;
-  }
-
   ReaderPreferences prefs;
   RecordingHost host;
   SystemColours system{0xABCDEF, 0x123456};
@@ -83,8 +71,6 @@ TEST_F(ReaderPreferencesTest, FirstRunAppliesTheDefaultsInOrder) {
               ElementsAre("font name Times New Roman", "font size 10", "justify on", "indent on",
                           "underscores off", "extra line off", "page colours", "resizing on",
                           "height 6570", "resizing off", "width 9500"));
-  EXPECT_EQ(prefs.font_name, "Times New Roman");
-  EXPECT_EQ(prefs.font_size, 10);
   EXPECT_FALSE(prefs.single_page_mode);
   EXPECT_FALSE(prefs.bar_hidden);
   EXPECT_EQ(prefs.paper_colour, 0xABCDEFu);
@@ -128,54 +114,41 @@ TEST_F(ReaderPreferencesTest, AWrongTypedValueIsLoggedAndTheRestAreRead) {
   EXPECT_EQ(prefs.ink_colour, 0u);  // the built-in value stays
   EXPECT_THAT(host.calls, Contains("page colours"));
   EXPECT_EQ(prefs.texture_num, 3);
-  int mismatches = 0;
-  for (const auto& entry : Actions().text) {
-    if (entry == "Type mismatch in sub readsettings(13) of module frmMain") ++mismatches;
-  }
-  EXPECT_EQ(mismatches, 2);
-}
-
-TEST_F(ReaderPreferencesTest, QuittingInSinglePageModeStoresTheSingleSizeOnly) {
-  const std::string path = folder.File("Vireo.ini");
-  test::WriteFile(path, "WINHEIGHT,6000\r\nWINWIDTH,9000\r\n");
-  LoadSettings(path);
-  prefs.single_page_mode = true;
-  prefs.paper_colour = 0xEEEEEE;
-  host.window = {5000, 7000};
-  host.underscores_ticked = true;
-  StoreSettings(prefs, host, path);
-
-  EXPECT_EQ(host.calls.front(), "store bookmark");
-  EXPECT_EQ(host.calls.back(), "save bookmarks");
-  const auto entries = FileEntries(path);
-  EXPECT_EQ(entries.at("SINGLEWINWIDTH"), "5000");
-  EXPECT_EQ(entries.at("SINGLEWINHEIGHT"), "7000");
-  EXPECT_EQ(entries.at("WINWIDTH"), "9000");
-  EXPECT_EQ(entries.at("WINHEIGHT"), "6000");
-  EXPECT_EQ(entries.at("SINGLEPAGEMODE"), "True");
-  EXPECT_EQ(entries.at("PAPERCOLOUR"), "15658734");
-  EXPECT_EQ(entries.at("UNDERSCORES"), "True");
-  EXPECT_EQ(entries.at("EXTRAPARAGRAPHLINE"), "False");
-  // The dialog's keys are not written at shutdown.
-  for (const char* key : {"PAGESWEEPWIDTH", "INSTANTPAGETURN", "TEXTURENUM", "LEFTBORDER",
-                          "RIGHTBORDER", "TOPBORDER", "BOTTOMBORDER"}) {
-    EXPECT_FALSE(entries.contains(key)) << key;
-  }
+  EXPECT_EQ(std::count(Actions().text.begin(), Actions().text.end(),
+                       "Type mismatch in sub readsettings(13) of module frmMain"),
+            2);
 }
 
 TEST_F(ReaderPreferencesTest, StoredPreferencesAreReadBackAtTheNextStart) {
   const std::string path = folder.File("Vireo.ini");
+  test::WriteFile(path, "WINHEIGHT,6000\r\nWINWIDTH,9000\r\n");
+  LoadSettings(path);
   prefs.font_name = "Arial";
   prefs.font_size = 13;
   prefs.justify = false;
   prefs.indented = false;
   prefs.bar_hidden = true;
+  prefs.single_page_mode = true;
   prefs.path = folder.str();
+  prefs.paper_colour = 0xEEEEEE;
   prefs.ink_colour = 0x0000FF;
-  prefs.highlight_colour = 0x00FFFF;
-  host.window = {7000, 6600};
-  host.extra_line_ticked = true;
+  host.window = {5000, 7000};
+  host.underscores_ticked = true;
   StoreSettings(prefs, host, path);
+  EXPECT_EQ(host.calls.front(), "store bookmark");
+  EXPECT_EQ(host.calls.back(), "save bookmarks");
+
+  // Single-page mode keeps its own size: the two-page size stays as it was.
+  // The dialog's keys are not written at shutdown.
+  cSHAREDSettings file;
+  file.LoadSettings(path);
+  EXPECT_EQ(file.RetrieveSetting("WinWidth").ToText(), "9000");
+  EXPECT_EQ(file.RetrieveSetting("WinHeight").ToText(), "6000");
+  EXPECT_EQ(file.RetrieveSetting("PaperColour").ToText(), "15658734");
+  for (const char* key : {"PageSweepWidth", "InstantPageTurn", "TextureNum", "LeftBorder",
+                          "RightBorder", "TopBorder", "BottomBorder"}) {
+    EXPECT_TRUE(file.RetrieveSetting(key).IsEmpty()) << key;
+  }
 
   ResetGlobalSettings();
   LoadSettings(path);
@@ -185,12 +158,12 @@ TEST_F(ReaderPreferencesTest, StoredPreferencesAreReadBackAtTheNextStart) {
   ReadDefaultPath(read, "/nowhere");
   EXPECT_THAT(fresh.calls,
               ElementsAre("font name Arial", "font size 13", "justify off", "indent off",
-                          "underscores off", "extra line on", "page colours", "resizing on",
-                          "height 6600", "resizing off", "width 7000"));
+                          "underscores on", "extra line off", "page colours", "resizing on",
+                          "height 7000", "resizing off", "width 5000"));
   EXPECT_TRUE(read.bar_hidden);
+  EXPECT_TRUE(read.single_page_mode);
+  EXPECT_EQ(read.paper_colour, 0xEEEEEEu);
   EXPECT_EQ(read.ink_colour, 0x0000FFu);
-  EXPECT_EQ(read.highlight_colour, 0x00FFFFu);
-  EXPECT_EQ(read.paper_colour, prefs.paper_colour);
   EXPECT_EQ(read.path, folder.str());
 }
 

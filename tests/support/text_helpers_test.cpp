@@ -12,57 +12,39 @@ namespace {
 using namespace std::string_literals;
 
 TEST(MyReplace, ReplacesLeftToRightWithoutRescanningInsertedText) {
-  std::string text = "aaa";
-  MyReplace(text, "a", "aa");
-  EXPECT_EQ(text, "aaaaaa");
-  text = "aaaa";
-  EXPECT_EQ(CountOccurrences(text, "aa"), 2u);
-  MyReplace(text, "aaa", "b");
-  EXPECT_EQ(text, "ba");
-  text = "x--y---z";
-  MyReplace(text, "--", "\x97");
-  EXPECT_EQ(text, "x\x97y\x97-z");
+  const struct {
+    std::string text, find, replacement, expected;
+  } cases[] = {
+      {"aaa", "a", "aa", "aaaaaa"},
+      {"aaaa", "aaa", "b", "ba"},
+      {"x--y---z", "--", "\x97", "x\x97y\x97-z"},
+      {"one\r\ntwo\r\n", "\r\n", "\r", "one\rtwo\r"},
+      {"one\rtwo", "missing", "x", "one\rtwo"},
+      {"one\rtwo", "", "x", "one\rtwo"},  // an empty find never matches
+      {"a\0b\xff\0"s, "\0"s, "\x85",
+       "a\x85"
+       "b\xff\x85"},
+  };
+  for (const auto& c : cases) {
+    std::string text = c.text;
+    MyReplace(text, c.find, c.replacement);
+    EXPECT_EQ(text, c.expected) << c.text;
+  }
+  EXPECT_EQ(CountOccurrences("aaaa", "aa"), 2u);
 }
 
-TEST(MyReplace, ShrinksGrowsAndLeavesTextWithoutMatchesAlone) {
-  std::string text = "one\r\ntwo\r\n";
-  MyReplace(text, "\r\n", "\r");
-  EXPECT_EQ(text, "one\rtwo\r");
-  MyReplace(text, "\r", std::string(ParaMark()));
-  EXPECT_EQ(text, "one \n two \n ");
-  MyReplace(text, "missing", "x");
-  EXPECT_EQ(text, "one \n two \n ");
-  MyReplace(text, "", "x");
-  EXPECT_EQ(text, "one \n two \n ") << "an empty find never matches";
-}
-
-TEST(MyReplace, CarriesNulBytesAndHighCharacters) {
-  std::string text = "a\0b\xff\0"s;
-  MyReplace(text, "\0"s, "\x85");
-  EXPECT_EQ(text,
-            "a\x85"
-            "b\xff\x85");
-}
-
-TEST(MyReplaceNoCaps, IgnoresCaseIncludingAccentedLetters) {
+TEST(MyReplace, CaseInsensitiveFormsFollowWindows1252) {
+  EXPECT_EQ(UpperCase("abc\xe0\xf7\xff\x9a"), "ABC\xc0\xf7\x9f\x8a");
   std::string text = "Search SEARCH search \xe9t\xc9";
   MyReplaceNoCaps(text, "search", "x");
-  EXPECT_EQ(text, "x x x \xe9t\xc9");
   MyReplaceNoCaps(text, "\xc9T\xe9", "y");
   EXPECT_EQ(text, "x x x y");
-}
-
-TEST(MyReplaceMulti, TheFirstMatchingPairWinsAtEachPosition) {
-  std::string text = "ab abc c";
+  // The first matching pair wins at each position.
+  text = "ab abc c ABx";
   MyReplaceMulti(text, {{"abc", "1"}, {"ab", "2"}, {"c", "3"}});
-  EXPECT_EQ(text, "2 1 3");
-  text = "ABx";
+  EXPECT_EQ(text, "2 1 3 ABx");
   MyReplaceMulti(text, {{"ab", "longer text"}}, Case::kIgnore);
-  EXPECT_EQ(text, "longer textx");
-}
-
-TEST(UpperCase, FollowsWindows1252) {
-  EXPECT_EQ(UpperCase("abc\xe0\xf7\xff\x9a"), "ABC\xc0\xf7\x9f\x8a");
+  EXPECT_EQ(text, "2 1 3 longer textx");
 }
 
 TEST(VHtmlLibrary, AnUnloadedLibraryRaisesError48) {
