@@ -1,51 +1,21 @@
-// Reading positions on the real window: kept across runs, shared by copies
-// of a book, erased on request.
+// Reading positions on the real window: shared by copies of a book, erased
+// on request. The e2e tests follow one book across runs of the program.
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
 #include "app/main_window.h"
-#include "app/window_driving.h"
-#include "book/book_maker.h"
+#include "app/reader_window_fixture.h"
 #include "nav/bookmarks.h"
 
 namespace vireo {
 namespace {
 
+using test::kInstant;
 using test::Press;
-
-constexpr const char* kInstant = "INSTANTPAGETURN,True\r\n";
-
-// An ebook at path (its folder made if need be) holding text.
-void WriteEbook(const std::string& path, const std::string& text) {
-  std::filesystem::create_directories(std::filesystem::path(path).parent_path());
-  const std::string body =
-      PackBody(PackableText(text, TextEncoding::kWindows1252), "Author", "Title");
-  test::WriteFile(path, EbookFile("stub program", body));
-}
+using test::WriteEbook;
 
 void Turn(test::ReaderWindow& reader, int spreads) {
   for (int turn = 0; turn < spreads; ++turn) Press(reader, Qt::Key_Space);
-}
-
-TEST(BookmarksWindow, ARestartOpensWhereTheReaderLeftWithTheSameWindow) {
-  test::ReaderWindow reader(test::SampleProse(80), kInstant);
-  reader.Start();
-  Turn(reader, 3);
-  ASSERT_EQ(reader.logic().current_page(), 8);
-  Press(reader, Qt::Key_B);
-  const int page = reader.logic().current_page();
-  const QImage left_page = test::BoxPicture(reader, kLeftPageBox);
-  const WindowSize size = reader.window().WindowOuterSize();
-  Press(reader, Qt::Key_Q);
-  ASSERT_EQ(reader.window().end_status(), 0);
-
-  reader.Restart();
-  EXPECT_EQ(reader.logic().current_page(), page);
-  EXPECT_EQ(test::BoxPicture(reader, kLeftPageBox), left_page);
-  EXPECT_FALSE(reader.window().bar().isVisible()) << "the bar stays hidden";
-  EXPECT_EQ(reader.window().WindowOuterSize(), size) << "the window keeps its size";
 }
 
 TEST(BookmarksWindow, CopiesOfABookInTwoFoldersShareOnePosition) {

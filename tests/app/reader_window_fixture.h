@@ -1,16 +1,24 @@
 #pragma once
 
 #include <QApplication>
+#include <QDropEvent>
 #include <QImage>
+#include <QMimeData>
+#include <QTest>
 #include <QTimer>
+#include <QUrl>
+#include <filesystem>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "app/main_window.h"
 #include "book/book_maker.h"
-#include "fake_window.h"
 #include "prefs/settings_get_set.h"
 #include "support/logging.h"
+#include "support/user_interaction.h"
 #include "test_support.h"
 
 namespace vireo::test {
@@ -28,6 +36,39 @@ inline std::string SampleProse(int paragraphs) {
   return text;
 }
 
+// Answers every box with its default, or with `answer` and `yes`, and keeps
+// what was asked.
+class FakeUser : public UserInteraction {
+ public:
+  void ShowMessage(std::string_view text, std::string_view) override {
+    messages.emplace_back(text);
+  }
+  std::optional<std::string> AskText(std::string_view prompt, std::string_view,
+                                     std::string_view default_text) override {
+    messages.emplace_back(prompt);
+    return answer ? answer : std::optional<std::string>(std::string(default_text));
+  }
+  bool AskYesNo(std::string_view question, std::string_view) override {
+    messages.emplace_back(question);
+    return yes;
+  }
+
+  std::vector<std::string> messages;
+  std::optional<std::string> answer;
+  bool yes = false;
+};
+
+// Page turns without the sweep, for tests that only care where they land.
+inline constexpr const char* kInstant = "INSTANTPAGETURN,True\r\n";
+
+// An ebook at path (its folder made if need be) holding text.
+inline void WriteEbook(const std::string& path, const std::string& text) {
+  std::filesystem::create_directories(std::filesystem::path(path).parent_path());
+  const std::string body =
+      PackBody(PackableText(text, TextEncoding::kWindows1252), "Author", "Title");
+  WriteFile(path, EbookFile("stub program", body));
+}
+
 // The real main window, offscreen, in a program folder of its own that holds
 // an ebook made from `text` and the settings given as file lines.
 class ReaderWindow {
@@ -37,10 +78,8 @@ class ReaderWindow {
     ClearActions();
     qputenv("XDG_DATA_HOME", folder_.File("xdg").c_str());
     if (!settings.empty()) WriteFile(folder_.File("Vireo.ini"), settings);
-    const std::string body =
-        PackBody(PackableText(text, TextEncoding::kWindows1252), "Author", "Title");
     book_ = folder_.File("Book");
-    WriteFile(book_, EbookFile("stub program", body));
+    WriteEbook(book_, text);
     window_ = std::make_unique<MainWindow>(user_, ProgramLocation{folder_.str(), book_});
   }
   ~ReaderWindow() {
@@ -87,5 +126,76 @@ class ReaderWindow {
   FakeUser user_;
   std::unique_ptr<MainWindow> window_;
 };
+
+inline int Px(double twips) { return static_cast<int>(twips / 15 + 0.5); }
+
+// A released key on the window, as a person types it.
+inline void Press(ReaderWindow& reader, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+  QTest::keyClick(&reader.window(), key, modifiers);
+  QApplication::processEvents();
+}
+
+inline void Trigger(ReaderWindow& reader, const char* item) {
+  reader.window().menu().Item(item)->trigger();
+  QApplication::processEvents();
+}
+
+// Runs action while a zero-interval timer calls tick each time the window
+// lets events run.
+inline void WhileWatching(const std::function<void()>& action, const std::function<void()>& tick) {
+  QTimer watch;
+  watch.setInterval(0);
+  QObject::connect(&watch, &QTimer::timeout, tick);
+  watch.start();
+  action();
+  watch.stop();
+}
+
+// Runs action; once a pagination is under way and the reader's spread is
+// already on show (the pages can be read while the rest is paginated),
+// during() is called, once. Returns whether that moment came.
+inline bool DuringPagination(ReaderWindow& reader, const std::function<void()>& action,
+                             const std::function<void()>& during) {
+  bool called = false;
+  WhileWatching(action, [&] {
+    if (called || !reader.logic().paginator_busy() || reader.logic().reindexing()) return;
+    called = true;
+    during();
+  });
+  QApplication::processEvents();
+  return called;
+}
+
+// Whether the book was paginated while action ran.
+inline bool Repaginates(ReaderWindow& reader, const std::function<void()>& action) {
+  bool seen = false;
+  WhileWatching(action, [&] { seen |= reader.logic().paginator_busy(); });
+  return seen;
+}
+
+// Drops a file on the window as the desktop does; returns whether the drag
+// was accepted when it entered.
+inline bool DropFile(ReaderWindow& reader, const std::string& path) {
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(QString::fromStdString(path))});
+  const QPoint at = reader.window().canvas().FrameRect(0).center().toPoint();
+  QDragEnterEvent enter(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&reader.window(), &enter);
+  if (!enter.isAccepted()) return false;
+  QDropEvent drop(QPointF(at), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&reader.window(), &drop);
+  QApplication::processEvents();
+  return true;
+}
+
+inline QImage BoxPicture(ReaderWindow& reader, int box) {
+  return reader.window().canvas().BoxImage(box).convertToFormat(QImage::Format_RGB32);
+}
+
+// The last message the program showed or asked, or "" when there was none.
+inline std::string LastMessage(ReaderWindow& reader) {
+  const auto& messages = reader.user().messages;
+  return messages.empty() ? "" : messages.back();
+}
 
 }  // namespace vireo::test

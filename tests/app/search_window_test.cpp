@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "app/main_window.h"
-#include "app/window_driving.h"
+#include "app/reader_window_fixture.h"
 
 namespace vireo {
 namespace {
@@ -34,9 +34,9 @@ void EnterTerm(test::ReaderWindow& reader, const std::string& term) {
   QApplication::processEvents();
 }
 
-// The page that holds the first occurrence of text at or after from (1-based).
-int PageOf(test::ReaderWindow& reader, const std::string& text, int32_t from = 1) {
-  const size_t found = reader.logic().book_text().find(text, static_cast<size_t>(from - 1));
+// The page that holds the first occurrence of text.
+int PageOf(test::ReaderWindow& reader, const std::string& text) {
+  const size_t found = reader.logic().book_text().find(text);
   const PageIndex& pages = reader.logic().pages();
   for (int p = 1; p < pages.count; ++p) {
     if (pages.PageStart(p + 1) > static_cast<int32_t>(found + 1)) return p;
@@ -50,7 +50,7 @@ size_t NoMoreMatches(test::ReaderWindow& reader) {
   return count;
 }
 
-TEST(SearchWindow, ANewTermRedrawsTheSpreadInPlaceWithItsMatchesHighlighted) {
+TEST(SearchWindow, ANewTermRedrawsInPlaceAndABlankOneSearchesNothing) {
   test::ReaderWindow reader(test::SampleProse(60), kRedMatches);
   reader.Start();
   ASSERT_EQ(reader.logic().current_page(), 2);
@@ -63,65 +63,35 @@ TEST(SearchWindow, ANewTermRedrawsTheSpreadInPlaceWithItsMatchesHighlighted) {
 
   EnterTerm(reader, "");
   EXPECT_EQ(reader.window().bar().lblSearch->text(), "paragraph 1 goes") << "an empty answer";
-}
-
-TEST(SearchWindow, FindNextAndPreviousTurnToThePagesThatHoldTheTerm) {
-  test::ReaderWindow reader(test::SampleProse(60), kRedMatches);
-  reader.Start();
-  ASSERT_GT(reader.logic().pages().count, 12);
-  // Six times in paragraph 30, on one or two pages, and nowhere else.
-  const std::string term = "paragraph 30 goes";
-  const int first = PageOf(reader, term);
-  const int last =
-      PageOf(reader, term, static_cast<int32_t>(reader.logic().book_text().rfind(term)) + 1);
-  ASSERT_GT(first, 3);
-  EnterTerm(reader, "PARAGRAPH 30 GOES");
-  reader.window().bar().cmdFindNext->click();
-  EXPECT_EQ(reader.logic().current_page(), first);
-  EXPECT_GT(RedPixels(reader, kRightPageBox), 100) << "the page found shows the match";
-  if (last != first) {
-    reader.window().bar().cmdFindNext->click();
-    EXPECT_EQ(reader.logic().current_page(), last);
-  }
-  EXPECT_EQ(NoMoreMatches(reader), 0u);
-  reader.window().bar().cmdFindNext->click();
-  EXPECT_EQ(reader.logic().current_page(), last);
-  EXPECT_EQ(NoMoreMatches(reader), 1u);
-
-  EnterTerm(reader, "sentence 1 of paragraph 2 goes");
-  Press(reader, Qt::Key_P);
-  EXPECT_EQ(reader.logic().current_page(), PageOf(reader, "Sentence 1 of paragraph 2 goes"));
-  Press(reader, Qt::Key_N);
-  EXPECT_EQ(NoMoreMatches(reader), 2u) << "the page found was the only one";
-}
-
-TEST(SearchWindow, TheEndsOfTheBookSayNoMoreMatches) {
-  test::ReaderWindow reader(test::SampleProse(40),
-                            std::string(kRedMatches) + "SINGLEPAGEMODE,True\r\n");
-  reader.Start();
-  EnterTerm(reader, "goes on");
-  Press(reader, Qt::Key_P);
-  EXPECT_EQ(NoMoreMatches(reader), 1u) << "nothing before page 1";
-  EXPECT_EQ(reader.logic().current_page(), 1);
-
-  const int count = reader.logic().pages().count;
-  for (int turn = 1; turn < count; ++turn) Press(reader, Qt::Key_Space);
-  ASSERT_EQ(reader.logic().current_page(), count);
-  Press(reader, Qt::Key_N);
-  EXPECT_EQ(NoMoreMatches(reader), 2u) << "nothing after the last page";
-  EXPECT_EQ(reader.logic().current_page(), count);
-}
-
-TEST(SearchWindow, ABlankTermSearchesNothingAndSaysNothing) {
-  test::ReaderWindow reader(test::SampleProse(40), kRedMatches);
-  reader.Start();
   EnterTerm(reader, "   ");
   const size_t messages = reader.user().messages.size();
   Press(reader, Qt::Key_N);
   Press(reader, Qt::Key_P);
-  reader.window().menu().Item("mnuFindNext")->trigger();
+  test::Trigger(reader, "mnuFindNext");
   EXPECT_EQ(reader.user().messages.size(), messages);
   EXPECT_EQ(reader.logic().current_page(), 2);
+}
+
+TEST(SearchWindow, FindNextAndPreviousTurnToThePageThatHoldsTheTerm) {
+  test::ReaderWindow reader(test::SampleProse(60), kRedMatches);
+  reader.Start();
+  const int page = PageOf(reader, "Sentence 4 of paragraph 30 goes");  // once in the book
+  ASSERT_GT(page, 3);
+  EnterTerm(reader, "SENTENCE 4 OF PARAGRAPH 30 GOES");
+  Press(reader, Qt::Key_P);
+  EXPECT_EQ(NoMoreMatches(reader), 1u) << "nothing before the first spread";
+  const QImage before = test::BoxPicture(reader, kRightPageBox);
+  reader.window().bar().cmdFindNext->click();
+  EXPECT_EQ(reader.logic().current_page(), page);
+  EXPECT_NE(test::BoxPicture(reader, kRightPageBox), before) << "the page found is drawn";
+  Press(reader, Qt::Key_N);
+  EXPECT_EQ(NoMoreMatches(reader), 2u) << "the term is only on the page on show";
+  EXPECT_EQ(reader.logic().current_page(), page);
+
+  Press(reader, Qt::Key_Space);
+  Press(reader, Qt::Key_Space);
+  reader.window().bar().cmdFindPrev->click();
+  EXPECT_EQ(reader.logic().current_page(), page);
 }
 
 }  // namespace

@@ -17,28 +17,24 @@ void ClickPage(test::ReaderWindow& reader, int frame, Qt::KeyboardModifiers modi
   QApplication::processEvents();
 }
 
-// The page number printed at the foot of the box, read back from the
-// composer's work: the page the window drew last into it.
-int RightPageShown(test::ReaderWindow& reader) { return reader.logic().current_page(); }
-
 TEST(TurningWithTheMouse, TheRightPageTurnsForwardAndTheLeftPageBack) {
-  test::ReaderWindow reader(test::SampleProse(60), "INSTANTPAGETURN,True\r\n");
+  test::ReaderWindow reader(test::SampleProse(60), test::kInstant);
   reader.Start();
   ASSERT_GT(reader.logic().pages().count, 8);
-  EXPECT_EQ(RightPageShown(reader), 2);
+  EXPECT_EQ(reader.logic().current_page(), 2);
   ClickPage(reader, kRightFrame);
-  EXPECT_EQ(RightPageShown(reader), 4);
+  EXPECT_EQ(reader.logic().current_page(), 4);
   ClickPage(reader, kRightFrame);
-  EXPECT_EQ(RightPageShown(reader), 6);
+  EXPECT_EQ(reader.logic().current_page(), 6);
   const int misses = reader.logic().cache().misses();
   const int hits = reader.logic().cache().hits();
   ClickPage(reader, kLeftFrame);
-  EXPECT_EQ(RightPageShown(reader), 4);
+  EXPECT_EQ(reader.logic().current_page(), 4);
   EXPECT_EQ(reader.logic().cache().hits(), hits + 2) << "both pages back from the lower cache";
   EXPECT_EQ(reader.logic().cache().misses(), misses);
   ClickPage(reader, kLeftFrame);
   ClickPage(reader, kLeftFrame);
-  EXPECT_EQ(RightPageShown(reader), 2) << "the first spread is the beginning";
+  EXPECT_EQ(reader.logic().current_page(), 2) << "the first spread is the beginning";
 }
 
 TEST(TurningWithTheMouse, SinglePageModeGoesForwardAndBackWithCtrl) {
@@ -59,7 +55,7 @@ TEST(TurningWithTheMouse, AnAnimatedTurnDrawsItsStepsAndEndsOnTheNextSpread) {
   reader.window().pump().SetPauseObserver([&] { ++frames; });
   ClickPage(reader, kRightFrame);
   reader.window().pump().SetPauseObserver(nullptr);
-  EXPECT_EQ(RightPageShown(reader), 4);
+  EXPECT_EQ(reader.logic().current_page(), 4);
   EXPECT_GT(frames, 8) << "the sweep is drawn step by step";
   EXPECT_FALSE(reader.window().canvas().BoxVisible(kRightWorkBox)) << "work boxes hidden again";
   EXPECT_EQ(reader.window().bar().Shape1->colour(), LampColour(Lamp::kGrey)) << "idle again";

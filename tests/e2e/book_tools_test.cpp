@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <filesystem>
 #include <random>
 
@@ -11,28 +10,10 @@
 #include "book/load_file.h"
 #include "book/random_text.h"
 #include "book/replace_known_char_reference.h"
-#include "test_support.h"
+#include "e2e/program_runner.h"
 
 namespace vireo {
 namespace {
-
-struct ShellRun {
-  int status = -1;
-  std::string out;
-};
-
-// Runs a shell command line, capturing standard output byte for byte.
-ShellRun Shell(const std::string& command) {
-  ShellRun run;
-  FILE* pipe = popen(command.c_str(), "r");
-  if (pipe == nullptr) return run;
-  char buffer[1 << 16];
-  for (size_t got; (got = std::fread(buffer, 1, sizeof buffer, pipe)) > 0;)
-    run.out.append(buffer, got);
-  const int status = pclose(pipe);
-  run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-  return run;
-}
 
 std::string Quoted(const std::string& path) { return "'" + path + "'"; }
 std::string Tool() { return Quoted(test::BinFolder() + "/vireo-tool"); }
@@ -45,29 +26,32 @@ std::string Flags(const FormattingOptions& options) {
   return flags;
 }
 
-// vireo-tool text in all eight option combinations gives the reformatted text.
-void ExpectTextOfBook(const std::string& book, const std::string& text) {
+// The sample text when the build made it, else prose-like random text.
+std::string SampleText() {
+  const std::string sample = test::BinFolder() + "/samples/genesis.txt";
+  if (std::filesystem::exists(sample)) return test::ReadFile(sample);
+  std::mt19937 random(77);
+  return test::ProseLikeText(random, 200000);
+}
+
+TEST(BookTools, MakeThenTextGivesTheReformattedTextInEveryCombination) {
+  test::TempFolder folder;
+  const std::string text = SampleText();
+  test::WriteFile(folder.File("sample.txt"), text);
+  const std::string book = folder.File("Sample Book");
+  const auto made = test::Run(Tool() + " make " + Quoted(folder.File("sample.txt")) + " -o " +
+                                  Quoted(book) + " --author 'Some One' --title 'Some Title'",
+                              {}, folder);
+  ASSERT_EQ(made.status, 0) << made.err;
+  EXPECT_NE(made.out.find("made"), std::string::npos);
   for (const FormattingOptions& options : test::AllFormattingOptions()) {
     std::string expected = text;
     test::ReplaceKnownCharStepByStep(expected, options);
-    const ShellRun run = Shell(Tool() + " text " + Quoted(book) + Flags(options));
-    ASSERT_EQ(run.status, 0) << Flags(options);
+    const auto run = test::Run(Tool() + " text " + Quoted(book) + Flags(options), {}, folder);
+    ASSERT_EQ(run.status, 0) << Flags(options) << run.err;
     ASSERT_EQ(run.out, expected) << Flags(options);
   }
-}
-
-TEST(BookTools, MakeThenTextGivesTheReformattedText) {
-  test::TempFolder folder;
-  std::mt19937 random(77);
-  const std::string text = test::ProseLikeText(random, 200000);
-  test::WriteFile(folder.File("prose.txt"), text);
-  const std::string book = folder.File("Prose Book");
-  const ShellRun made = Shell(Tool() + " make " + Quoted(folder.File("prose.txt")) + " -o " +
-                              Quoted(book) + " --author 'Some One' --title 'Some Title'");
-  ASSERT_EQ(made.status, 0);
-  EXPECT_NE(made.out.find("made"), std::string::npos);
-  ExpectTextOfBook(book, text);
-  const ShellRun info = Shell(Tool() + " info " + Quoted(book));
+  const auto info = test::Run(Tool() + " info " + Quoted(book), {}, folder);
   EXPECT_EQ(info.status, 0);
   EXPECT_NE(info.out.find("author: Some One\n"), std::string::npos) << info.out;
   EXPECT_NE(info.out.find("title: Some Title\n"), std::string::npos) << info.out;
@@ -79,30 +63,21 @@ TEST(BookTools, MakeThenTextGivesTheReformattedText) {
   EXPECT_FALSE(HasSymbolTable(ebook));
 }
 
-TEST(BookTools, TheSampleBookGivesTheReformattedSampleText) {
-  const std::string samples = test::BinFolder() + "/samples";
-  const std::string book = test::BinFolder() + "/Genesis";
-  if (!std::filesystem::exists(book)) GTEST_SKIP() << "no sample book built";
-  ExpectTextOfBook(book, test::ReadFile(samples + "/genesis.txt"));
-}
-
 TEST(BookTools, BadInputFailsWithAMessageAndNoFile) {
   test::TempFolder folder;
-  const std::string out = folder.File("out");
-  EXPECT_EQ(Shell(Tool() + " make " + Quoted(folder.File("missing.txt")) + " -o " + Quoted(out) +
-                  " 2>/dev/null")
-                .status,
-            1);
   test::WriteFile(folder.File("empty.txt"), "");
-  EXPECT_EQ(Shell(Tool() + " make " + Quoted(folder.File("empty.txt")) + " -o " + Quoted(out) +
-                  " 2>/dev/null")
-                .status,
-            1);
-  EXPECT_FALSE(std::filesystem::exists(out));
   test::WriteFile(folder.File("plain.txt"), "no book here");
-  const ShellRun text = Shell(Tool() + " text " + Quoted(folder.File("plain.txt")) + " 2>&1");
+  const std::string out = folder.File("out");
+  for (const char* input : {"missing.txt", "empty.txt"}) {
+    const auto made = test::Run(
+        Tool() + " make " + Quoted(folder.File(input)) + " -o " + Quoted(out), {}, folder);
+    EXPECT_EQ(made.status, 1) << input;
+    EXPECT_FALSE(made.err.empty()) << input;
+  }
+  EXPECT_FALSE(std::filesystem::exists(out));
+  const auto text = test::Run(Tool() + " text " + Quoted(folder.File("plain.txt")), {}, folder);
   EXPECT_EQ(text.status, 1);
-  EXPECT_NE(text.out.find("There is no ebook stored in this file."), std::string::npos);
+  EXPECT_NE(text.err.find("There is no ebook stored in this file."), std::string::npos);
 }
 
 TEST(BookTools, TheProgramsDoNotCarryTheMarkers) {

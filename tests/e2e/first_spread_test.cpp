@@ -1,28 +1,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <random>
+
+#include "book/random_text.h"
 #include "e2e/program_runner.h"
 
 namespace vireo {
 namespace {
-
-// A text of about `bytes` bytes of varied prose in paragraphs.
-std::string Prose(size_t bytes) {
-  static const char* const kWords[] = {"the",     "reader", "turns",   "a",       "page",
-                                       "and",     "finds",  "another", "chapter", "waiting",
-                                       "quietly", "for",    "evening", "light"};
-  std::string text;
-  unsigned seed = 12345;
-  while (text.size() < bytes) {
-    for (int word = 0; word < 90; ++word) {
-      seed = seed * 1103515245 + 12345;
-      text += kWords[(seed >> 16) % 14];
-      text += word % 13 == 12 ? ". " : " ";
-    }
-    text += "\r\n\r\n";
-  }
-  return text;
-}
 
 long long Milestone(const std::string& err, const std::string& name) {
   const size_t at = err.find("[timing] " + name + " ");
@@ -32,7 +17,8 @@ long long Milestone(const std::string& err, const std::string& name) {
 
 TEST(FirstSpread, IsOnScreenBeforeA5MegabyteBookIsPaginated) {
   test::ProgramFolder program;
-  test::WriteFile(program.Path("book.txt"), Prose(5'000'000));
+  std::mt19937 random(5);
+  test::WriteFile(program.Path("book.txt"), test::ProseLikeText(random, 5'000'000));
   const auto made = test::Run(program.Path("vireo-tool") + " make " + program.Path("book.txt") +
                                   " -o " + program.Path("Big") + " --stub " + program.Path("Vireo"),
                               {}, program.folder());
