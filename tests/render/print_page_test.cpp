@@ -6,7 +6,6 @@
 #include "fake_pump.h"
 #include "fake_surface.h"
 #include "layout/font_metrics.h"
-#include "support/logging.h"
 
 namespace vireo {
 namespace {
@@ -27,7 +26,6 @@ class PrintPageTest : public ::testing::Test {
     surface.SetFontBold(false);
     surface.SetFontItalic(false);
     surface.SetForeColor(kInk);
-    ClearActions();
   }
 
   static PageSettings Page(std::string text, double line_width = 1000) {
@@ -62,32 +60,23 @@ class PrintPageTest : public ::testing::Test {
 
 TEST_F(PrintPageTest, LaysThePageTextOutIntoLines) {
   struct Case {
-    const char* why;
     std::string text;
     double width;
     std::vector<std::string> lines;
   };
   const Case cases[] = {
-      {"wraps words, keeps the indent, marks paragraph ends",
-       "one two. \n Three four five ",
-       100,
-       {"one two.\n", "   Three", "four five"}},
-      {"breaks after any hyphen before a space, even a leading one",
-       "aaaa -bbbb well-known ",
-       60,
-       {"aaaa -", "bbbb", "well-", "known"}},
-      {"deletes page breaks and page-number tags",
-       "Chapter[npn=n] one \x86 next[npn=r] [npn=d]end ",
-       1000,
-       {"Chapter one\n", "   next end"}},
-      // 24 characters (240) still fit in 245: the piece is 25 characters.
-      {"splits a long word at the shortest prefix as wide as the line",
-       std::string(30, 'x') + " ",
-       245,
-       {std::string(25, 'x'), "   xxxxx"}},
+      // Wraps words, keeps the paragraph indent and marks paragraph ends.
+      {"one two. \n Three four five ", 100, {"one two.\n", "   Three", "four five"}},
+      // Breaks after any hyphen before a space, even a leading one.
+      {"aaaa -bbbb well-known ", 60, {"aaaa -", "bbbb", "well-", "known"}},
+      // Deletes page breaks and page-number tags.
+      {"Chapter[npn=n] one \x86 next[npn=r] [npn=d]end ", 1000, {"Chapter one\n", "   next end"}},
+      // Splits a long word at the shortest prefix as wide as the line: 24
+      // characters (240) still fit in 245, the piece is 25.
+      {std::string(30, 'x') + " ", 245, {std::string(25, 'x'), "   xxxxx"}},
   };
   for (const Case& c : cases) {
-    SCOPED_TRACE(c.why);
+    SCOPED_TRACE(c.text);
     EXPECT_EQ(Lines(Page(c.text, c.width)), c.lines);
   }
   EXPECT_EQ(pump.yields, 4) << "one yield per page";
@@ -101,35 +90,31 @@ TEST_F(PrintPageTest, DrawsEachLineLeftAlignedJustifiedOrCentred) {
     double x, y;
   };
   struct Case {
-    const char* why;
     std::string text;
     std::vector<Run> runs;
     bool indented = true;
   };
-  const std::string a34 = std::string(34, 'a') + " ";
+  const std::string a34 = std::string(34, 'a') + " ", b34(34, 'b'), b35(35, 'b'), c20(20, 'c');
   const std::string full = a34 + std::string(40, 'b');
   const std::string wide = std::string(44, 'a') + " " + std::string(44, 'b');
   const Case cases[] = {
-      // The one space takes the whole gap of 300: the last word ends at 1400.
-      {"70 % full",
-       a34 + std::string(35, 'b'),
-       {{a34, 400, 300}, {std::string(35, 'b'), 1050, 300}}},
-      {"69 % full", a34 + std::string(34, 'b'), {{a34 + std::string(34, 'b'), 400, 300}}},
-      {"the last line of a paragraph",
-       full + " \n next",
-       {{full, 400, 300}, {"   next", 400, 556}}},
-      {"centred: 400 + (1000 - 50) / 2",
-       "\x84Title \n body",
-       {{"Title", 875, 300}, {"   body", 400, 556}}},
-      {"centred and full: 400 + (1000 - 890) / 2",
-       "\x84" + wide + " " + std::string(20, 'c') + " end",
-       {{wide, 455, 300}, {std::string(20, 'c') + " end", 400, 556}}},
-      {"indented", "One. \n Two three", {{"One.", 400, 300}, {"   Two three", 400, 556}}},
-      {"not indented", "One. \n Two three", {{"One.", 400, 300}, {"Two three", 400, 556}}, false},
-      {"a page whose first line would be empty", "\n Next words ", {{"   Next words", 400, 300}}},
+      // 70 % full: justified, the one space takes the whole gap of 300.
+      {a34 + b35, {{a34, 400, 300}, {b35, 1050, 300}}},
+      // 69 % full: left aligned.
+      {a34 + b34, {{a34 + b34, 400, 300}}},
+      // The last line of a paragraph is never justified.
+      {full + " \n next", {{full, 400, 300}, {"   next", 400, 556}}},
+      // Centred, at 400 + (1000 - 50) / 2; full but centred, at 400 + (1000 - 890) / 2.
+      {"\x84Title \n body", {{"Title", 875, 300}, {"   body", 400, 556}}},
+      {"\x84" + wide + " " + c20 + " end", {{wide, 455, 300}, {c20 + " end", 400, 556}}},
+      // Paragraphs indented or not.
+      {"One. \n Two three", {{"One.", 400, 300}, {"   Two three", 400, 556}}},
+      {"One. \n Two three", {{"One.", 400, 300}, {"Two three", 400, 556}}, false},
+      // A page whose first line would be empty starts with its first text line.
+      {"\n Next words ", {{"   Next words", 400, 300}}},
   };
   for (const Case& c : cases) {
-    SCOPED_TRACE(c.why);
+    SCOPED_TRACE(c.text);
     surface.runs.clear();
     PageSettings settings = Page(c.text);
     settings.indented = c.indented;
