@@ -39,44 +39,44 @@ class TitlePageTest : public ::testing::Test {
 
 TEST_F(TitlePageTest, SinglePageShowsWelcomeAndHintsOnTheOnePage) {
   const auto placement = DrawTitlePage(left, left, kInk, 1500, 1200);
-  const auto welcome = RunOf(left, "Welcome to Vireo!");
-  EXPECT_EQ(welcome.x, 1980);  // (6000 - 17 bold letters of 120) / 2
-  EXPECT_EQ(welcome.y, 300);
-  EXPECT_TRUE(welcome.bold);
-  EXPECT_EQ(welcome.font_size, 12);
-
-  // 4900 twips is more than 0.8 of 6000: the credit line drops to 8 points.
-  const auto credit = RunOf(left, "Brought to you by Marrowind Software, New Zealand");
-  EXPECT_EQ(credit.font_size, 8);
-  EXPECT_EQ(credit.x, 550);
-  EXPECT_EQ(credit.y, 300 + 3 * 240);
-  EXPECT_FALSE(credit.bold);
-  EXPECT_EQ(credit.colour, kInk);
-  EXPECT_EQ(RunOf(left, "This is version " + AppVersion()).font_size, 10);
+  const std::string credit = "Brought to you by Marrowind Software, New Zealand";
+  struct Expected {
+    std::string text;
+    double x, y, points;
+    bool bold;
+  };
+  const Expected expected[] = {
+      // Centred: (6000 - 17 bold letters of 120) / 2.
+      {"Welcome to Vireo!", 1980, 300, 12, true},
+      // 4900 twips is more than 0.8 of 6000: the credit line drops to 8 points.
+      {credit, 550, 300 + 3 * 240, 8, false},
+      {"This is version " + AppVersion(), (6000 - 100.0 * (16 + AppVersion().size())) / 2,
+       300 + 5 * 240, 10, false},
+      // The hints start at half the page, from the left edge.
+      {"Hints:", 0, 4500, 10, true},
+      {"Press 1 and 2 to toggle page mode", 0, 4500 + 7 * 240, 10, false},
+      // Two empty lines, the list, then this line 50 twips below it.
+      {"See the Languages folder for translation files", 700, 6900 + 1200 + 50, 10, false},
+  };
+  for (const Expected& e : expected) {
+    SCOPED_TRACE(e.text);
+    const auto run = RunOf(left, e.text);
+    EXPECT_EQ(run.x, e.x);
+    EXPECT_EQ(run.y, e.y);
+    EXPECT_EQ(run.font_size, e.points);
+    EXPECT_EQ(run.bold, e.bold);
+  }
   RunOf(left, "This program is updated frequently, so please");
   RunOf(left, "check the Marrowind home page often:");
   EXPECT_EQ(RunOf(left, kMakerHomePage).colour, 0xFF0000u);
+  EXPECT_EQ(RunOf(left, credit).colour, kInk);
+  EXPECT_EQ(RunOf(left, "Press 1 and 2 to toggle page mode").colour, kInk);
 
-  // The hints start at half the page, from the left edge.
-  const auto hints = RunOf(left, "Hints:");
-  EXPECT_EQ(hints.x, 0);
-  EXPECT_EQ(hints.y, 4500);
-  EXPECT_TRUE(hints.bold);
-  const auto last_hint = RunOf(left, "Press 1 and 2 to toggle page mode");
-  EXPECT_EQ(last_hint.y, 4500 + 7 * 240);
-  EXPECT_FALSE(last_hint.bold);
-  EXPECT_EQ(last_hint.colour, kInk);
-
-  // Two empty lines, then the list 300 twips from the right edge, its caption
-  // 100 twips to its left, and the folder line 50 twips below it.
+  // The list 300 twips from the right edge, its caption 100 twips to its left.
   ASSERT_TRUE(placement.has_value());
   EXPECT_EQ(placement->list, (TwipsRect{4200, 6900, 1500, 1200}));
   EXPECT_EQ(placement->caption_right, 4100);
   EXPECT_EQ(placement->caption_top, 6900);
-  const std::string folder_line = "See the Languages folder for translation files";
-  const auto below = RunOf(left, folder_line);
-  EXPECT_EQ(below.y, 6900 + 1200 + 50);
-  EXPECT_EQ(below.x, (6000 - 100.0 * folder_line.size()) / 2);
 }
 
 TEST_F(TitlePageTest, DoublePageShowsWelcomeOnTheRightAndTranslatedHintsOnTheLeft) {
