@@ -5,19 +5,18 @@
 #include <QFontInfo>
 #include <QRect>
 
-#include <memory>
-
 namespace vireo {
 namespace {
 
-// A surface with its own image, in the book font (a surface is not copied:
-// it may hold a painter on its image).
-std::unique_ptr<QtSurface> BookSurface(int width = 400, int height = 200) {
-  auto surface = std::make_unique<QtSurface>(width, height);
-  surface->SetFontName("Times New Roman");
-  surface->SetFontSize(12);
-  return surface;
-}
+// A surface with its own image of 400 x 200 pixels, in the book font.
+class QtSurfaceTest : public testing::Test {
+ protected:
+  QtSurfaceTest() {
+    surface.SetFontName("Times New Roman");
+    surface.SetFontSize(12);
+  }
+  QtSurface surface{400, 200};
+};
 
 // The bounding box of every pixel that is not the back colour.
 QRect InkBounds(const QImage& image, QRgb back) {
@@ -30,9 +29,7 @@ QRect InkBounds(const QImage& image, QRgb back) {
   return bounds;
 }
 
-TEST(QtSurface, TheBookFontHasItsMetricTwinsWidthsInTwipsWithoutKerning) {
-  auto surface_owner = BookSurface();
-  QtSurface& surface = *surface_owner;
+TEST_F(QtSurfaceTest, TheBookFontHasItsMetricTwinsWidthsInTwipsWithoutKerning) {
   EXPECT_EQ(QFontInfo(surface.font()).family(), "Liberation Serif");
   // No kerning: "AV" is exactly "A" plus "V".
   EXPECT_DOUBLE_EQ(surface.TextWidth("AV"), surface.TextWidth("A") + surface.TextWidth("V"));
@@ -40,9 +37,7 @@ TEST(QtSurface, TheBookFontHasItsMetricTwinsWidthsInTwipsWithoutKerning) {
   EXPECT_NEAR(surface.TextWidth("\x97"), 16 * 15, 15);
 }
 
-TEST(QtSurface, TextIsDrawnWithinItsLineAndMovesThePenOn) {
-  auto surface_owner = BookSurface();
-  QtSurface& surface = *surface_owner;
+TEST_F(QtSurfaceTest, TextIsDrawnWithinItsLineAndMovesThePenOn) {
   surface.SetBackColor(0x00FFFFFF);
   surface.Clear();
   surface.SetCurrentX(300);
@@ -61,9 +56,7 @@ TEST(QtSurface, TextIsDrawnWithinItsLineAndMovesThePenOn) {
 
 // Runs are gathered and drawn together; each must still keep its own
 // colour, and an underline must not bridge the gap to the next run.
-TEST(QtSurface, RunsKeepTheirColoursAndTheirOwnUnderlines) {
-  auto surface_owner = BookSurface();
-  QtSurface& surface = *surface_owner;
+TEST_F(QtSurfaceTest, RunsKeepTheirColoursAndTheirOwnUnderlines) {
   surface.Clear();
   surface.SetForeColor(0x000000FF);  // red
   surface.DrawText("MMM");
