@@ -16,28 +16,21 @@ class BookmarksTest : public testing::Test {
   test::TempFolder folder_;
 };
 
-TEST_F(BookmarksTest, AnEmptyPathStoresNothing) {
+TEST_F(BookmarksTest, PositionsReachTheFileOnlyWhenSavedAndSurviveARestartUntilErased) {
   StoreBookmark("", 55);
-  SaveBookmarks();
-  EXPECT_EQ(test::ReadFile(File()), "");
-}
-
-TEST_F(BookmarksTest, PositionsReachTheFileOnlyWhenSavedAndSurviveARestart) {
   StoreBookmark("/a/Genesis", 120001);
+  StoreBookmark("/a/Exodus", 2);
   EXPECT_FALSE(test::FileExists(File()));
   SaveBookmarks();
-  EXPECT_EQ(test::ReadFile(File()), "GENESIS,120001\r\n");
+  const std::string saved = "EXODUS,2\r\nGENESIS,120001\r\n";
+  EXPECT_EQ(test::ReadFile(File()), saved) << "an empty path stores nothing";
   SetBookmarksFolder(folder_.str());  // as after a restart
   EXPECT_EQ(RetrieveBookmark("/b/Genesis"), 120001);
-}
 
-TEST_F(BookmarksTest, ErasingEmptiesTheStoreAndTheFileAtTheNextSave) {
-  StoreBookmark("/a/One", 1);
-  StoreBookmark("/a/Two", 2);
-  SaveBookmarks();
   EraseAllBookmarks();
-  EXPECT_EQ(RetrieveBookmark("/a/One"), 0);
-  EXPECT_EQ(test::ReadFile(File()), "ONE,1\r\nTWO,2\r\n");
+  EXPECT_EQ(RetrieveBookmark("/a/Genesis"), 0);
+  EXPECT_EQ(RetrieveBookmark("/a/Exodus"), 0);
+  EXPECT_EQ(test::ReadFile(File()), saved) << "the file changes at the next save";
   SaveBookmarks();
   EXPECT_EQ(test::ReadFile(File()), "");
 }

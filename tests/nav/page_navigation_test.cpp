@@ -14,17 +14,11 @@ namespace {
 
 using test::FakeBookDisplay;
 
-// Four pages starting at 1, 120, 250 and 380.
-PageIndex FourPages() {
+TEST(WhichPage, MapsPositionsToThePageBeforeTheFirstLaterStart) {
   PageIndex index;
   index.count = 4;
   const int32_t starts[] = {1, 120, 250, 380};
   for (int32_t p = 1; p <= 4; ++p) index.SetPageStart(p, starts[p - 1]);
-  return index;
-}
-
-TEST(WhichPage, MapsPositionsToThePageBeforeTheFirstLaterStart) {
-  const PageIndex index = FourPages();
   EXPECT_EQ(WhichPage(index, 0), -1);
   EXPECT_EQ(WhichPage(index, 1), 1);
   EXPECT_EQ(WhichPage(index, 119), 1);
@@ -32,31 +26,26 @@ TEST(WhichPage, MapsPositionsToThePageBeforeTheFirstLaterStart) {
   EXPECT_EQ(WhichPage(index, 379), 3);
   EXPECT_EQ(WhichPage(index, 380), 0) << "on the last page";
   EXPECT_EQ(WhichPage(index, 5000), 0);
-}
 
-TEST(WhichPage, ATitlePageIsNeverTheAnswerForTextPositions) {
-  PageIndex index;
   index.count = 3;  // page 1 is the title page and starts at 0
+  index.SetPageStart(1, 0);
   index.SetPageStart(2, 1);
   index.SetPageStart(3, 200);
-  EXPECT_EQ(WhichPage(index, 1), 2);
+  EXPECT_EQ(WhichPage(index, 1), 2) << "a title page is never the answer for text";
   EXPECT_EQ(WhichPage(index, 199), 2);
 }
 
+// Answers with `answer`; while_open runs while the dialog would be open.
 class FakeChooser : public PageChooser {
  public:
   std::optional<int> ChoosePage(int current_page, int page_count) override {
-    ++asked;
-    shown_current = current_page;
-    shown_count = page_count;
+    asked.push_back({current_page, page_count});
     if (while_open) while_open();
     return answer;
   }
   std::optional<int> answer;
   std::function<void()> while_open;
-  int asked = 0;
-  int shown_current = 0;
-  int shown_count = 0;
+  std::vector<std::pair<int, int>> asked;  // (current page, page count) per call
 };
 
 class GotoPageTest : public testing::Test {
@@ -71,48 +60,33 @@ TEST_F(GotoPageTest, AChosenPageOpensTheSpreadThatHoldsIt) {
   state.current_page = 2;
   chooser.answer = 6;
   navigator.GotoPage(chooser, 10);
-  EXPECT_EQ(chooser.shown_current, 2);
-  EXPECT_EQ(chooser.shown_count, 10);
+  EXPECT_EQ(chooser.asked, (std::vector<std::pair<int, int>>{{2, 10}}));
   EXPECT_EQ(display.events,
             (std::vector<std::string>{"clear 0", "plot 0 0 5", "clear 1", "plot 1 1 6"}));
-  EXPECT_EQ(state.current_page, 6);
 
-  chooser.answer = 10;  // the last page of an even count
-  navigator.GotoPage(chooser, 10);
-  EXPECT_EQ(display.content[0], 9);
-  EXPECT_EQ(display.content[1], 10);
-  EXPECT_EQ(state.current_page, 10);
+  struct Case {
+    int answer, page_count, left, right, current;
+  };
+  for (const Case& c : {Case{10, 10, 9, 10, 10}, Case{25, 9, 9, FakeBookDisplay::kBlank, 10},
+                        Case{0, 9, 1, 2, 2}}) {
+    SCOPED_TRACE("page " + std::to_string(c.answer) + " of " + std::to_string(c.page_count));
+    display.page_count = c.page_count;
+    chooser.answer = c.answer;
+    navigator.GotoPage(chooser, c.page_count);
+    EXPECT_EQ(display.content[0], c.left);
+    EXPECT_EQ(display.content[1], c.right);
+    EXPECT_EQ(state.current_page, c.current);
+  }
 }
 
-TEST_F(GotoPageTest, ChoicesBeyondTheBookAreClampedToASpread) {
-  display.page_count = 9;
-  chooser.answer = 25;
-  navigator.GotoPage(chooser, 9);
-  EXPECT_EQ(display.content[0], 9);
-  EXPECT_EQ(display.content[1], FakeBookDisplay::kBlank) << "page 10 does not exist";
-  EXPECT_EQ(state.current_page, 10);
-
-  chooser.answer = 0;
-  navigator.GotoPage(chooser, 9);
-  EXPECT_EQ(display.content[0], 1);
-  EXPECT_EQ(display.content[1], 2);
-  EXPECT_EQ(state.current_page, 2);
-}
-
-TEST_F(GotoPageTest, CancellingChangesNothing) {
-  state.current_page = 4;
-  chooser.answer.reset();
-  navigator.GotoPage(chooser, 10);
-  EXPECT_TRUE(display.events.empty());
-  EXPECT_EQ(state.current_page, 4);
-  EXPECT_FALSE(navigator.navigation_busy());
-  navigator.GotoPage(chooser, 10);
-  EXPECT_EQ(chooser.asked, 2);
-}
-
-TEST_F(GotoPageTest, WithoutPagesOrWhileTheDialogIsOpenNothingIsAsked) {
+TEST_F(GotoPageTest, NoDialogWithoutPagesOrInsideAnOpenOneAndACancelChangesNothing) {
+  state.current_page = 8;
   navigator.GotoPage(chooser, 0);
-  EXPECT_EQ(chooser.asked, 0);
+  EXPECT_TRUE(chooser.asked.empty()) << "no pages";
+  navigator.GotoPage(chooser, 10);
+  EXPECT_TRUE(display.events.empty()) << "cancelled";
+  EXPECT_EQ(state.current_page, 8);
+  EXPECT_FALSE(navigator.navigation_busy());
 
   chooser.answer = 3;
   bool busy_while_open = false;
@@ -122,53 +96,39 @@ TEST_F(GotoPageTest, WithoutPagesOrWhileTheDialogIsOpenNothingIsAsked) {
   };
   navigator.GotoPage(chooser, 10);
   EXPECT_TRUE(busy_while_open);
-  EXPECT_EQ(chooser.asked, 1);
-  EXPECT_EQ(state.current_page, 4);
-}
-
-// Line geometry: text from 300 twips, lines of 240, ten lines per page.
-PageMouseContext Lines(PageMode mode = PageMode::kDouble) {
-  PageMouseContext context;
-  context.mode = mode;
-  context.text_top_twips = 300;
-  context.line_height_twips = 240;
-  context.lines_per_page = 10;
-  return context;
-}
-
-PageMouseEvent Mouse(PageMouseEventKind kind, int box, PageMouseButton button, double y = 0) {
-  PageMouseEvent event;
-  event.kind = kind;
-  event.page_box = box;
-  event.button = button;
-  event.y_twips = y;
-  return event;
+  EXPECT_EQ(chooser.asked.size(), 2u) << "asked again after the cancel, not from inside";
+  EXPECT_EQ(state.current_page, 4) << "the outer jump to page 3 alone";
 }
 
 TEST(PageMouse, ShiftClickMarksTheLineUnderThePointerAndSpeaksItOnRelease) {
-  auto down = Mouse(PageMouseEventKind::kDown, 0, PageMouseButton::kLeft, 300 + 2 * 240 + 5);
-  down.shift = true;
-  EXPECT_EQ(DecidePageMouse(down, Lines()),
+  // Text from 300 twips, lines of 240, ten lines per page.
+  PageMouseContext lines;
+  lines.text_top_twips = 300;
+  lines.line_height_twips = 240;
+  lines.lines_per_page = 10;
+  const auto shift_left = [](PageMouseEventKind kind, double y) {
+    return PageMouseEvent{kind, kLeftPageBox, PageMouseButton::kLeft, true, false, y};
+  };
+
+  auto down = shift_left(PageMouseEventKind::kDown, 300 + 2 * 240 + 5);
+  EXPECT_EQ(DecidePageMouse(down, lines),
             (PageMouseDecision{PageMouseAction::kMarkLine, 3, 780, 1010}));
-
   down.y_twips = 300 + 10 * 240;  // line 11 of 10
-  EXPECT_EQ(DecidePageMouse(down, Lines()).action, PageMouseAction::kNone);
+  EXPECT_EQ(DecidePageMouse(down, lines).action, PageMouseAction::kNone);
   down.y_twips = 300 + 9 * 240;
-  EXPECT_EQ(DecidePageMouse(down, Lines()).line, 10);
+  EXPECT_EQ(DecidePageMouse(down, lines).line, 10);
 
-  PageMouseContext marked = Lines();
+  PageMouseContext marked = lines;
   marked.marked_line = 3;
-  auto move = Mouse(PageMouseEventKind::kMove, 0, PageMouseButton::kLeft, 300 + 2 * 240 + 200);
-  move.shift = true;
+  auto move = shift_left(PageMouseEventKind::kMove, 300 + 2 * 240 + 200);
   EXPECT_EQ(DecidePageMouse(move, marked).action, PageMouseAction::kNone) << "same line";
   move.y_twips += 100;
   EXPECT_EQ(DecidePageMouse(move, marked),
             (PageMouseDecision{PageMouseAction::kMoveMark, 4, 1020, 1250}));
 
-  auto up = Mouse(PageMouseEventKind::kUp, 0, PageMouseButton::kLeft, 310);
-  up.shift = true;
-  EXPECT_EQ(DecidePageMouse(up, marked).action, PageMouseAction::kSpeakLine);
-  EXPECT_EQ(DecidePageMouse(up, marked).line, 1);
+  const auto up = shift_left(PageMouseEventKind::kUp, 310);
+  EXPECT_EQ(DecidePageMouse(up, marked),
+            (PageMouseDecision{PageMouseAction::kSpeakLine, 1, 300, 530}));
 }
 
 TEST(PageNavState, SliderAndTypedPagesRoundToWholePagesWithinTheBook) {

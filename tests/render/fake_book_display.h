@@ -7,7 +7,6 @@
 
 #include "fake_pump.h"
 #include "render/book_display.h"
-#include "support/runtime_error.h"
 
 namespace vireo::test {
 
@@ -20,6 +19,7 @@ class FakeBookDisplay : public BookDisplay {
   static constexpr int kBlank = 0;
   static constexpr int kTitlePage = -100;
   static constexpr int kNothing = -200;  // no visible box at that point
+  static constexpr double kFrameWidth = 4500;
 
   // What one frame showed near its spine and near its outer edge at the
   // moment a squeezed strip or a copy was drawn into a visible box.
@@ -30,15 +30,10 @@ class FakeBookDisplay : public BookDisplay {
     int at_outer_edge = kNothing;
   };
 
-  explicit FakeBookDisplay(int pages = 10, double frame_width = 4500) : page_count(pages) {
-    frame_widths = {frame_width, frame_width};
-    widths.fill(frame_width);
-    visible = {true, true, false, false, false, false, false, false};
-  }
+  explicit FakeBookDisplay(int pages) : page_count(pages) { widths.fill(kFrameWidth); }
 
   void PlotOnPage(PageSide side, int box, int page) override {
-    events.push_back("plot " + std::to_string(static_cast<int>(side)) + " " + std::to_string(box) +
-                     " " + std::to_string(page));
+    Record("plot", static_cast<int>(side), box, page);
     if (!book_loaded) {
       content[box] = kTitlePage;
     } else if (page >= 1 && page <= page_count) {
@@ -46,21 +41,18 @@ class FakeBookDisplay : public BookDisplay {
     }
   }
   void ClearPage(int box) override {
-    events.push_back("clear " + std::to_string(box));
+    Record("clear", box);
     content[box] = kBlank;
   }
   void CopyPage(int source_box, int destination_box) override {
-    if (destination_box == fail_copies_to) throw RuntimeError(ErrorNumber::kInvalidProcedureCall);
-    events.push_back("copy " + std::to_string(source_box) + " " + std::to_string(destination_box));
+    Record("copy", source_box, destination_box);
     content[destination_box] = content[source_box];
     if (visible[destination_box] && destination_box < 2) {
       views.push_back(View(destination_box, false));
     }
   }
   void StretchPage(int source_box, int destination_box, double width) override {
-    events.push_back("stretch " + std::to_string(source_box) + " " +
-                     std::to_string(destination_box) + " " + std::to_string(int(width)));
-    ++stretches;
+    Record("stretch", source_box, destination_box, static_cast<int>(width));
     stretch_widths.push_back(width);
     if (width != widths[destination_box]) mismatched_stretches++;
     content[destination_box] = content[source_box];
@@ -71,7 +63,7 @@ class FakeBookDisplay : public BookDisplay {
     content[kRightPageBox] = kTitlePage;
   }
 
-  double FrameWidth(int frame) const override { return frame_widths[frame]; }
+  double FrameWidth(int) const override { return kFrameWidth; }
   void SetBoxWidth(int box, double twips) override {
     if (twips < 0) ++negative_widths;
     widths[box] = twips;
@@ -97,22 +89,11 @@ class FakeBookDisplay : public BookDisplay {
   }
   bool BookLoaded() const override { return book_loaded; }
 
-  // The page the reader sees at x twips from the left of a frame: the
-  // topmost visible box of the frame that covers x.
-  int ShownAt(int frame, double x) const {
-    const auto& stack = stacks[frame];
-    for (auto it = stack.rbegin(); it != stack.rend(); ++it) {
-      const int box = *it;
-      if (visible[box] && x >= lefts[box] && x < lefts[box] + widths[box]) return content[box];
-    }
-    return kNothing;
-  }
-
-  // True when every on-show and work box has its frame's full width at left
+  // True when every on-show and work box has the frame's full width at left
   // 0 and the work boxes are hidden: the state between turns.
   bool AtRest() const {
     for (int box = 0; box < 4; ++box) {
-      if (widths[box] != frame_widths[box % 2] || lefts[box] != 0) return false;
+      if (widths[box] != kFrameWidth || lefts[box] != 0) return false;
     }
     return !visible[kLeftWorkBox] && !visible[kRightWorkBox];
   }
@@ -131,32 +112,44 @@ class FakeBookDisplay : public BookDisplay {
   int page_count;
   bool book_loaded = true;
   bool cover_shown = true;
-  int fail_copies_to = -1;  // CopyPage onto this box raises error 5
 
   std::array<int, 8> content{};
   std::array<double, 8> widths{};
   std::array<double, 8> lefts{};
-  std::array<bool, 8> visible{};
-  std::array<double, 2> frame_widths{};
+  std::array<bool, 8> visible{true, true};
   // Back to front; the work box starts on top so that the code must raise.
   std::array<std::vector<int>, 2> stacks{{{0, 2}, {1, 3}}};
 
-  std::vector<std::string> events;
+  std::vector<std::string> events;  // "plot side box page", "copy from to", ...
   std::vector<Lamp> lamps;
   std::vector<double> stretch_widths;
   std::vector<FrameView> views;
-  int stretches = 0;
   int negative_widths = 0;
   int mismatched_stretches = 0;
 
  private:
+  template <typename... Numbers>
+  void Record(std::string event, Numbers... numbers) {
+    ((event += " " + std::to_string(numbers)), ...);
+    events.push_back(std::move(event));
+  }
+
+  // The page the reader sees at x twips from the left of a frame: the
+  // topmost visible box of the frame that covers x.
+  int ShownAt(int frame, double x) const {
+    const auto& stack = stacks[frame];
+    for (auto it = stack.rbegin(); it != stack.rend(); ++it) {
+      const int box = *it;
+      if (visible[box] && x >= lefts[box] && x < lefts[box] + widths[box]) return content[box];
+    }
+    return kNothing;
+  }
+
   FrameView View(int box, bool squeezed) const {
-    const int frame = box % 2;
-    const double w = frame_widths[frame];
     // The spine is the left frame's right edge and the right frame's left edge.
-    const double spine = frame == kLeftFrame ? w - 1 : 0;
-    const double outer = frame == kLeftFrame ? 0 : w - 1;
-    return {box, squeezed, ShownAt(frame, spine), ShownAt(frame, outer)};
+    const double spine = box % 2 == kLeftFrame ? kFrameWidth - 1 : 0;
+    const double outer = box % 2 == kLeftFrame ? 0 : kFrameWidth - 1;
+    return {box, squeezed, ShownAt(box % 2, spine), ShownAt(box % 2, outer)};
   }
 };
 

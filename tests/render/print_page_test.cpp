@@ -3,9 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "fake_pump.h"
 #include "fake_surface.h"
 #include "layout/font_metrics.h"
-#include "render/render_test_support.h"
 
 namespace vireo {
 namespace {
@@ -26,7 +26,6 @@ class PrintPageTest : public ::testing::Test {
     surface.SetFontBold(false);
     surface.SetFontItalic(false);
     surface.SetForeColor(kInk);
-    ClearActions();
   }
 
   static PageSettings Page(std::string text, double line_width = 1000) {
@@ -59,59 +58,74 @@ class PrintPageTest : public ::testing::Test {
   clsPrintPage composer{pump};
 };
 
-// --- Laying the page text out into lines ---
-
-TEST_F(PrintPageTest, WrapsWordsKeepsTheParagraphIndentAndMarksParagraphEnds) {
-  EXPECT_THAT(Lines(Page("one two. \n Three four five ", 100)),
-              ElementsAre("one two.\n", "   Three", "four five"));
-  EXPECT_EQ(pump.yields, 1);
+TEST_F(PrintPageTest, LaysThePageTextOutIntoLines) {
+  struct Case {
+    std::string text;
+    double width;
+    std::vector<std::string> lines;
+  };
+  const Case cases[] = {
+      // Wraps words, keeps the paragraph indent and marks paragraph ends.
+      {"one two. \n Three four five ", 100, {"one two.\n", "   Three", "four five"}},
+      // Breaks after any hyphen before a space, even a leading one.
+      {"aaaa -bbbb well-known ", 60, {"aaaa -", "bbbb", "well-", "known"}},
+      // Deletes page breaks and page-number tags.
+      {"Chapter[npn=n] one \x86 next[npn=r] [npn=d]end ", 1000, {"Chapter one\n", "   next end"}},
+      // Splits a long word at the shortest prefix as wide as the line: 24
+      // characters (240) still fit in 245, the piece is 25.
+      {std::string(30, 'x') + " ", 245, {std::string(25, 'x'), "   xxxxx"}},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.text);
+    EXPECT_EQ(Lines(Page(c.text, c.width)), c.lines);
+  }
+  EXPECT_EQ(pump.yields, 4) << "one yield per page";
 }
 
-TEST_F(PrintPageTest, BreaksAfterAnyHyphenBeforeASpaceEvenALeadingOne) {
-  EXPECT_THAT(Lines(Page("aaaa -bbbb well-known ", 60)),
-              ElementsAre("aaaa -", "bbbb", "well-", "known"));
-}
-
-TEST_F(PrintPageTest, DeletesPageBreaksAndPageNumberTagsFromWords) {
-  EXPECT_THAT(Lines(Page("Chapter[npn=n] one \x86 next[npn=r] [npn=d]end ")),
-              ElementsAre("Chapter one\n", "   next end"));
-}
-
-TEST_F(PrintPageTest, SplitsALongWordAtTheShortestPrefixAsWideAsTheLine) {
-  // 24 characters (240) still fit in 245; the piece is 25 characters.
-  EXPECT_THAT(Lines(Page(std::string(30, 'x') + " ", 245)),
-              ElementsAre(std::string(25, 'x'), "   xxxxx"));
-}
-
-TEST_F(PrintPageTest, APageWhoseFirstLineWouldBeEmptyStartsWithItsFirstTextLine) {
-  EXPECT_THAT(Lines(Page("\n Next words ")), ElementsAre("   Next words"));
-  ASSERT_EQ(surface.runs.size(), 1u);
-  EXPECT_EQ(surface.runs[0].y, 300);
-}
-
-// --- Drawing the lines ---
-
-TEST_F(PrintPageTest, ALineSeventyPercentFullIsJustifiedToTheRightEdge) {
-  Lines(Page(std::string(34, 'a') + " " + std::string(35, 'b')));
-  ASSERT_THAT(RunTexts(), ElementsAre(std::string(34, 'a') + " ", std::string(35, 'b')));
-  EXPECT_EQ(surface.runs[0].x, 400);
-  // The one space takes the whole gap of 300: the last word ends at 1400.
-  EXPECT_EQ(surface.runs[1].x, 1050);
-}
-
-TEST_F(PrintPageTest, ALineSixtyNinePercentFullIsLeftAligned) {
-  const std::string line = std::string(34, 'a') + " " + std::string(34, 'b');
-  Lines(Page(line));
-  ASSERT_THAT(RunTexts(), ElementsAre(line));
-  EXPECT_EQ(surface.runs[0].x, 400);
-}
-
-TEST_F(PrintPageTest, TheLastLineOfAParagraphIsNeverJustified) {
-  const std::string full = std::string(34, 'a') + " " + std::string(40, 'b');
-  Lines(Page(full + " \n next"));
-  ASSERT_GE(surface.runs.size(), 1u);
-  EXPECT_EQ(surface.runs[0].text, full);
-  EXPECT_EQ(surface.runs[0].x, 400);
+// Each line is justified when at least 70 % full, unless it is centred or
+// ends its paragraph; lines are 240 high with a step of 16.
+TEST_F(PrintPageTest, DrawsEachLineLeftAlignedJustifiedOrCentred) {
+  struct Run {
+    std::string text;
+    double x, y;
+  };
+  struct Case {
+    std::string text;
+    std::vector<Run> runs;
+    bool indented = true;
+  };
+  const std::string a34 = std::string(34, 'a') + " ", b34(34, 'b'), b35(35, 'b'), c20(20, 'c');
+  const std::string full = a34 + std::string(40, 'b');
+  const std::string wide = std::string(44, 'a') + " " + std::string(44, 'b');
+  const Case cases[] = {
+      // 70 % full: justified, the one space takes the whole gap of 300.
+      {a34 + b35, {{a34, 400, 300}, {b35, 1050, 300}}},
+      // 69 % full: left aligned.
+      {a34 + b34, {{a34 + b34, 400, 300}}},
+      // The last line of a paragraph is never justified.
+      {full + " \n next", {{full, 400, 300}, {"   next", 400, 556}}},
+      // Centred, at 400 + (1000 - 50) / 2; full but centred, at 400 + (1000 - 890) / 2.
+      {"\x84Title \n body", {{"Title", 875, 300}, {"   body", 400, 556}}},
+      {"\x84" + wide + " " + c20 + " end", {{wide, 455, 300}, {c20 + " end", 400, 556}}},
+      // Paragraphs indented or not.
+      {"One. \n Two three", {{"One.", 400, 300}, {"   Two three", 400, 556}}},
+      {"One. \n Two three", {{"One.", 400, 300}, {"Two three", 400, 556}}, false},
+      // A page whose first line would be empty starts with its first text line.
+      {"\n Next words ", {{"   Next words", 400, 300}}},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.text);
+    surface.runs.clear();
+    PageSettings settings = Page(c.text);
+    settings.indented = c.indented;
+    Lines(settings);
+    ASSERT_EQ(surface.runs.size(), c.runs.size());
+    for (size_t i = 0; i < c.runs.size(); ++i) {
+      EXPECT_EQ(surface.runs[i].text, c.runs[i].text);
+      EXPECT_EQ(surface.runs[i].x, c.runs[i].x) << c.runs[i].text;
+      EXPECT_EQ(surface.runs[i].y, c.runs[i].y) << c.runs[i].text;
+    }
+  }
 }
 
 TEST_F(PrintPageTest, JustifiedWordsEndExactlyOnTheRightEdge) {
@@ -128,33 +142,6 @@ TEST_F(PrintPageTest, JustifiedWordsEndExactlyOnTheRightEdge) {
   EXPECT_DOUBLE_EQ(last.x + 100, 1404);
 }
 
-TEST_F(PrintPageTest, ACentredLineIsCentredAndNeverJustified) {
-  Lines(Page("\x84Title \n body"));
-  ASSERT_GE(surface.runs.size(), 1u);
-  EXPECT_EQ(surface.runs[0].text, "Title");
-  EXPECT_EQ(surface.runs[0].x, 875);  // 400 + (1000 - 50) / 2
-
-  surface.runs.clear();
-  const std::string full = std::string(44, 'a') + " " + std::string(44, 'b');
-  Lines(Page("\x84" + full + " " + std::string(20, 'c') + " end"));
-  ASSERT_GE(surface.runs.size(), 1u);
-  EXPECT_EQ(surface.runs[0].text, full);
-  EXPECT_EQ(surface.runs[0].x, 455);  // 400 + (1000 - 890) / 2
-}
-
-TEST_F(PrintPageTest, WithoutIndentationParagraphsStartAtTheLeftEdge) {
-  PageSettings settings = Page("One. \n Two three");
-  Lines(settings);
-  ASSERT_THAT(RunTexts(), ElementsAre("One.", "   Two three"));
-  EXPECT_EQ(surface.runs[1].x, 400);
-  EXPECT_EQ(surface.runs[1].y, 556);  // 300 + line height 240 + step 16
-
-  surface.runs.clear();
-  settings.indented = false;
-  Lines(settings);
-  EXPECT_THAT(RunTexts(), ElementsAre("One.", "Two three"));
-}
-
 TEST_F(PrintPageTest, StyleCodesSwitchTheFontAndAreNotDrawn) {
   Lines(
       Page("\x80"
@@ -167,7 +154,7 @@ TEST_F(PrintPageTest, StyleCodesSwitchTheFontAndAreNotDrawn) {
   EXPECT_EQ(surface.runs[2].x, 590);
 }
 
-TEST_F(PrintPageTest, HighlightsEveryMatchOfTheSearchTermWhateverItsCase) {
+TEST_F(PrintPageTest, HighlightsEveryMatchOfTheSearchTermWhateverItsCaseButNotThePrompt) {
   PageSettings settings = Page("the quick Fox jumps, fox");
   settings.search_term = "fOX";
   Lines(settings);
@@ -178,12 +165,10 @@ TEST_F(PrintPageTest, HighlightsEveryMatchOfTheSearchTermWhateverItsCase) {
   EXPECT_EQ(surface.runs[2].colour, kInk);
   EXPECT_EQ(surface.runs[3].colour, kHighlight);
   EXPECT_EQ(surface.ForeColor(), kInk);  // restored at the end of the line
-}
 
-TEST_F(PrintPageTest, TheSearchPromptAndBlankTermsHighlightNothing) {
   for (const std::string term : {"Search Term", "   ", ""}) {
     surface.runs.clear();
-    PageSettings settings = Page("type a Search Term here");
+    settings = Page("type a Search Term here");
     settings.search_term = term;
     Lines(settings);
     ASSERT_EQ(surface.runs.size(), 1u) << "term '" << term << "'";

@@ -1,6 +1,5 @@
 #include "render/title_page.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "fake_surface.h"
@@ -14,7 +13,6 @@ namespace {
 using test::FakeSurface;
 
 constexpr uint32_t kInk = 0x202020;
-constexpr std::string_view kCredit = "Brought to you by Marrowind Software, New Zealand";
 
 const FakeSurface::Run* FindRun(const FakeSurface& surface, std::string_view text) {
   for (const auto& run : surface.runs) {
@@ -23,7 +21,15 @@ const FakeSurface::Run* FindRun(const FakeSurface& surface, std::string_view tex
   return nullptr;
 }
 
-// Characters are 100 twips wide and lines 240 high on these boxes.
+// The run that drew text; a failure and an empty run when there is none.
+FakeSurface::Run RunOf(const FakeSurface& surface, std::string_view text) {
+  if (const auto* run = FindRun(surface, text)) return *run;
+  ADD_FAILURE() << "not drawn: " << text;
+  return {};
+}
+
+// Boxes of 6000 x 9000 twips; characters are 100 twips wide (bold 120) and
+// lines 240 high.
 class TitlePageTest : public ::testing::Test {
  protected:
   ~TitlePageTest() override { SetLanguage({}); }
@@ -33,74 +39,58 @@ class TitlePageTest : public ::testing::Test {
 
 TEST_F(TitlePageTest, SinglePageShowsWelcomeAndHintsOnTheOnePage) {
   const auto placement = DrawTitlePage(left, left, kInk, 1500, 1200);
+  const std::string credit = "Brought to you by Marrowind Software, New Zealand";
+  struct Expected {
+    std::string text;
+    double x, y, points;
+    bool bold;
+  };
+  const Expected expected[] = {
+      // Centred: (6000 - 17 bold letters of 120) / 2.
+      {"Welcome to Vireo!", 1980, 300, 12, true},
+      // 4900 twips is more than 0.8 of 6000: the credit line drops to 8 points.
+      {credit, 550, 300 + 3 * 240, 8, false},
+      {"This is version " + AppVersion(), (6000 - 100.0 * (16 + AppVersion().size())) / 2,
+       300 + 5 * 240, 10, false},
+      // The hints start at half the page, from the left edge.
+      {"Hints:", 0, 4500, 10, true},
+      {"Press 1 and 2 to toggle page mode", 0, 4500 + 7 * 240, 10, false},
+      // Two empty lines, the list, then this line 50 twips below it.
+      {"See the Languages folder for translation files", 700, 6900 + 1200 + 50, 10, false},
+  };
+  for (const Expected& e : expected) {
+    SCOPED_TRACE(e.text);
+    const auto run = RunOf(left, e.text);
+    EXPECT_EQ(run.x, e.x);
+    EXPECT_EQ(run.y, e.y);
+    EXPECT_EQ(run.font_size, e.points);
+    EXPECT_EQ(run.bold, e.bold);
+  }
+  RunOf(left, "This program is updated frequently, so please");
+  RunOf(left, "check the Marrowind home page often:");
+  EXPECT_EQ(RunOf(left, kMakerHomePage).colour, 0xFF0000u);
+  EXPECT_EQ(RunOf(left, credit).colour, kInk);
+  EXPECT_EQ(RunOf(left, "Press 1 and 2 to toggle page mode").colour, kInk);
 
-  const auto* welcome = FindRun(left, "Welcome to Vireo!");
-  ASSERT_NE(welcome, nullptr);
-  EXPECT_EQ(welcome->x, 1980);  // (6000 - 17 bold letters of 120) / 2
-  EXPECT_EQ(welcome->y, 300);
-  EXPECT_TRUE(welcome->bold);
-  EXPECT_EQ(welcome->font_size, 12);
-
-  // 4900 twips is more than 0.8 of 6000: the credit line drops to 8 points.
-  const auto* credit = FindRun(left, kCredit);
-  ASSERT_NE(credit, nullptr);
-  EXPECT_EQ(credit->font_size, 8);
-  EXPECT_EQ(credit->x, 550);
-  EXPECT_EQ(credit->y, 300 + 3 * 240);
-  EXPECT_FALSE(credit->bold);
-  EXPECT_EQ(credit->colour, kInk);
-
-  const auto* version = FindRun(left, "This is version " + AppVersion());
-  ASSERT_NE(version, nullptr);
-  EXPECT_EQ(version->font_size, 10);
-  ASSERT_NE(FindRun(left, "This program is updated frequently, so please"), nullptr);
-  ASSERT_NE(FindRun(left, "check the Marrowind home page often:"), nullptr);
-  const auto* home = FindRun(left, kMakerHomePage);
-  ASSERT_NE(home, nullptr);
-  EXPECT_EQ(home->colour, 0xFF0000u);
-
-  // The hints start at half the page, from the left edge.
-  const auto* hints = FindRun(left, "Hints:");
-  ASSERT_NE(hints, nullptr);
-  EXPECT_EQ(hints->x, 0);
-  EXPECT_EQ(hints->y, 4500);
-  EXPECT_TRUE(hints->bold);
-  const auto* last_hint = FindRun(left, "Press 1 and 2 to toggle page mode");
-  ASSERT_NE(last_hint, nullptr);
-  EXPECT_EQ(last_hint->y, 4500 + 7 * 240);
-  EXPECT_FALSE(last_hint->bold);
-  EXPECT_EQ(last_hint->colour, kInk);
-
-  // Two empty lines, then the list 300 twips from the right edge.
+  // The list 300 twips from the right edge, its caption 100 twips to its left.
   ASSERT_TRUE(placement.has_value());
   EXPECT_EQ(placement->list, (TwipsRect{4200, 6900, 1500, 1200}));
   EXPECT_EQ(placement->caption_right, 4100);
   EXPECT_EQ(placement->caption_top, 6900);
-  const std::string folder_line = "See the Languages folder for translation files";
-  const auto* below = FindRun(left, folder_line);
-  ASSERT_NE(below, nullptr);
-  EXPECT_EQ(below->y, 6900 + 1200 + 50);
-  EXPECT_EQ(below->x, (6000 - 100.0 * folder_line.size()) / 2);
 }
 
-TEST_F(TitlePageTest, DoublePageShowsWelcomeOnTheRightAndHintsOnTheLeft) {
-  left.DrawText("previous page");
-  DrawTitlePage(right, left, kInk, 1500, 1200);
-  EXPECT_EQ(right.runs.front().text, "Welcome to Vireo!");
-  EXPECT_EQ(FindRun(right, "Hints:"), nullptr);
-  EXPECT_EQ(left.clears, 1);
-  EXPECT_EQ(left.runs.front().text, "Hints:");
-  EXPECT_EQ(left.runs.front().colour, kInk);
-  EXPECT_EQ(FindRun(left, "Welcome to Vireo!"), nullptr);
-}
-
-TEST_F(TitlePageTest, HintsAreTranslatedAndTheWelcomeIsNot) {
+TEST_F(TitlePageTest, DoublePageShowsWelcomeOnTheRightAndTranslatedHintsOnTheLeft) {
   SetLanguage({"Hints||Pistas", "Click LOAD to load a file||Pulse LOAD para cargar",
                "Welcome to Vireo!||Bienvenido"});
-  DrawTitlePage(left, left, kInk, 1500, 1200);
-  EXPECT_NE(FindRun(left, "Pistas:"), nullptr);
-  EXPECT_NE(FindRun(left, "Pulse LOAD para cargar"), nullptr);
-  EXPECT_NE(FindRun(left, "Welcome to Vireo!"), nullptr);
+  left.DrawText("previous page");
+  DrawTitlePage(right, left, kInk, 1500, 1200);
+  EXPECT_EQ(right.runs.front().text, "Welcome to Vireo!") << "the welcome is not translated";
+  EXPECT_EQ(FindRun(right, "Pistas:"), nullptr);
+  EXPECT_EQ(left.clears, 1);
+  EXPECT_EQ(left.runs.front().text, "Pistas:");
+  EXPECT_EQ(left.runs.front().colour, kInk);
+  RunOf(left, "Pulse LOAD para cargar");
+  EXPECT_EQ(FindRun(left, "Welcome to Vireo!"), nullptr);
 }
 
 }  // namespace
