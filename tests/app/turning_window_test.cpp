@@ -11,6 +11,19 @@
 namespace vireo {
 namespace {
 
+// Counts the paint events a widget receives.
+class PaintCounter : public QObject {
+ public:
+  explicit PaintCounter(QWidget* widget) { widget->installEventFilter(this); }
+  int paints = 0;
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    paints += event->type() == QEvent::Paint;
+    return false;
+  }
+};
+
 void ClickPage(test::ReaderWindow& reader, int frame, Qt::KeyboardModifiers modifiers = {}) {
   BookCanvasWidget& canvas = reader.window().canvas();
   QTest::mouseClick(&canvas, Qt::LeftButton, modifiers, canvas.FrameRect(frame).center().toPoint());
@@ -51,12 +64,20 @@ TEST(TurningWithTheMouse, SinglePageModeGoesForwardAndBackWithCtrl) {
 TEST(TurningWithTheMouse, AnAnimatedTurnDrawsItsStepsAndEndsOnTheNextSpread) {
   test::ReaderWindow reader(test::SampleProse(40), "PAGESWEEPWIDTH,600\r\n");
   reader.Start();
+  PaintCounter canvas(&reader.window().canvas());
   int frames = 0;
-  reader.window().pump().SetPauseObserver([&] { ++frames; });
+  int unpainted_steps = 0;  // pauses with nothing painted since the last one
+  int painted_before = canvas.paints;
+  reader.window().pump().SetPauseObserver([&] {
+    ++frames;
+    unpainted_steps += canvas.paints == painted_before;
+    painted_before = canvas.paints;
+  });
   ClickPage(reader, kRightFrame);
   reader.window().pump().SetPauseObserver(nullptr);
   EXPECT_EQ(reader.logic().current_page(), 4);
   EXPECT_GT(frames, 8) << "the sweep is drawn step by step";
+  EXPECT_EQ(unpainted_steps, 0) << "every step is on screen before its pause";
   EXPECT_FALSE(reader.window().canvas().BoxVisible(kRightWorkBox)) << "work boxes hidden again";
   EXPECT_EQ(reader.window().bar().Shape1->colour(), LampColour(Lamp::kGrey)) << "idle again";
   EXPECT_EQ(Actions().position, 0) << Actions().text[1];
