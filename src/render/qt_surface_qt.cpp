@@ -149,10 +149,15 @@ void QtSurface::DrawText(std::string_view text) {
   if (text.empty()) return;
   const GlyphTable& table = Glyphs();
   const QColor colour = ColorFromBgr(ForeColor());
-  if (pending_.table != &table || pending_.colour != colour) DrawPendingGlyphs();
+  const bool underline = font_.underline();
+  if (pending_.table != &table || pending_.colour != colour || pending_.underline != underline) {
+    DrawPendingGlyphs();
+  }
   pending_.table = &table;
   pending_.colour = colour;
-  const QPointF origin(CurrentX() / kTwipsPerPixel, CurrentY() / kTwipsPerPixel + Metrics().ascent());
+  pending_.underline = underline;
+  const QPointF origin(CurrentX() / kTwipsPerPixel,
+                       CurrentY() / kTwipsPerPixel + Metrics().ascent());
   qreal x = 0;
   for (char c : text) {
     const auto code = static_cast<uint8_t>(c);
@@ -160,17 +165,17 @@ void QtSurface::DrawText(std::string_view text) {
     pending_.positions.append(origin + QPointF(x, 0));
     x += table.advances[code];
   }
-  if (font_.underline()) DrawPendingGlyphs(true);
+  if (underline) DrawPendingGlyphs();
   SetCurrentX(CurrentX() + x * kTwipsPerPixel);
 }
 
-void QtSurface::DrawPendingGlyphs(bool underline) {
+void QtSurface::DrawPendingGlyphs() {
   if (pending_.glyphs.isEmpty()) return;
   QGlyphRun run;
   run.setRawFont(pending_.table->raw);
   run.setGlyphIndexes(pending_.glyphs);
   run.setPositions(pending_.positions);
-  run.setUnderline(underline);
+  run.setUnderline(pending_.underline);
   QPainter& painter = Painter();
   painter.setPen(pending_.colour);
   painter.drawGlyphRun(QPointF(0, 0), run);

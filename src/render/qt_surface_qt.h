@@ -100,7 +100,7 @@ class QtSurface : public Surface {
   void FontChanged();
   const GlyphTable& Glyphs() const;
   QPainter& Painter();
-  void DrawPendingGlyphs(bool underline = false);
+  void DrawPendingGlyphs();
   const QFontMetricsF& Metrics() const;
 
   QImage own_image_;
@@ -121,6 +121,7 @@ class QtSurface : public Surface {
   struct PendingGlyphs {
     const GlyphTable* table = nullptr;
     QColor colour;
+    bool underline = false;
     QList<quint32> glyphs;
     QList<QPointF> positions;
   };
