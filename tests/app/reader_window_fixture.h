@@ -36,8 +36,7 @@ inline std::string SampleProse(int paragraphs) {
   return text;
 }
 
-// Answers every box with its default, or with `answer` and `yes`, and keeps
-// what was asked.
+// Answers every box with `answer` (else the default) and `yes`, keeping what was asked.
 class FakeUser : public UserInteraction {
  public:
   void ShowMessage(std::string_view text, std::string_view) override {
@@ -69,8 +68,7 @@ inline void WriteEbook(const std::string& path, const std::string& text) {
   WriteFile(path, EbookFile("stub program", body));
 }
 
-// The real main window, offscreen, in a program folder of its own that holds
-// an ebook made from `text` and the settings given as file lines.
+// The real main window, offscreen, in its own program folder with an ebook of `text`.
 class ReaderWindow {
  public:
   ReaderWindow(const std::string& text, const std::string& settings = "") {
@@ -96,8 +94,7 @@ class ReaderWindow {
     QApplication::processEvents();
   }
 
-  // A second run of the program in the same folder: the window is dropped
-  // (after Exit, or as if the program had been killed) and a new one starts.
+  // A second run in the same folder: the window is dropped and a new one starts.
   void Restart() {
     ClearQuit();
     window_.reset();
@@ -112,9 +109,7 @@ class ReaderWindow {
   FakeUser& user() { return user_; }
 
  private:
-  // Exit ends the application's event loop; with none running, Qt then
-  // refuses every later loop (a modal dialog's too). A short run of the
-  // application's own loop clears that for the tests that follow.
+  // After Exit Qt refuses every later event loop; a short run of the main loop clears that.
   void ClearQuit() {
     if (!window_ || window_->end_status() < 0) return;
     QTimer::singleShot(0, [] { QCoreApplication::exit(0); });
@@ -140,8 +135,7 @@ inline void Trigger(ReaderWindow& reader, const char* item) {
   QApplication::processEvents();
 }
 
-// Runs action while a zero-interval timer calls tick each time the window
-// lets events run.
+// Runs action while a zero-interval timer calls tick whenever events run.
 inline void WhileWatching(const std::function<void()>& action, const std::function<void()>& tick) {
   QTimer watch;
   watch.setInterval(0);
@@ -151,9 +145,8 @@ inline void WhileWatching(const std::function<void()>& action, const std::functi
   watch.stop();
 }
 
-// Runs action; once a pagination is under way and the reader's spread is
-// already on show (the pages can be read while the rest is paginated),
-// during() is called, once. Returns whether that moment came.
+// Runs action and calls during() once while a pagination runs with the spread on show;
+// returns whether that moment came.
 inline bool DuringPagination(ReaderWindow& reader, const std::function<void()>& action,
                              const std::function<void()>& during) {
   bool called = false;
@@ -173,8 +166,7 @@ inline bool Repaginates(ReaderWindow& reader, const std::function<void()>& actio
   return seen;
 }
 
-// Drops a file on the window as the desktop does; returns whether the drag
-// was accepted when it entered.
+// Drops a file on the window; returns whether the drag was accepted when it entered.
 inline bool DropFile(ReaderWindow& reader, const std::string& path) {
   QMimeData data;
   data.setUrls({QUrl::fromLocalFile(QString::fromStdString(path))});

@@ -34,16 +34,6 @@ void EnterTerm(test::ReaderWindow& reader, const std::string& term) {
   QApplication::processEvents();
 }
 
-// The page that holds the first occurrence of text.
-int PageOf(test::ReaderWindow& reader, const std::string& text) {
-  const size_t found = reader.logic().book_text().find(text);
-  const PageIndex& pages = reader.logic().pages();
-  for (int p = 1; p < pages.count; ++p) {
-    if (pages.PageStart(p + 1) > static_cast<int32_t>(found + 1)) return p;
-  }
-  return pages.count;
-}
-
 size_t NoMoreMatches(test::ReaderWindow& reader) {
   size_t count = 0;
   for (const std::string& message : reader.user().messages) count += message == "No more matches";
@@ -57,7 +47,6 @@ TEST(SearchWindow, ANewTermRedrawsInPlaceAndABlankOneSearchesNothing) {
   EXPECT_EQ(RedPixels(reader, kLeftPageBox), 0);
   EnterTerm(reader, "paragraph 1 goes");
   EXPECT_EQ(reader.window().bar().lblSearch->text(), "paragraph 1 goes");
-  EXPECT_EQ(reader.user().messages.back(), "Enter the word or words you want to search for");
   EXPECT_EQ(reader.logic().current_page(), 2) << "no search is made";
   EXPECT_GT(RedPixels(reader, kLeftPageBox), 100) << "page 1 holds paragraph 1";
 
@@ -75,7 +64,11 @@ TEST(SearchWindow, ANewTermRedrawsInPlaceAndABlankOneSearchesNothing) {
 TEST(SearchWindow, FindNextAndPreviousTurnToThePageThatHoldsTheTerm) {
   test::ReaderWindow reader(test::SampleProse(60), kRedMatches);
   reader.Start();
-  const int page = PageOf(reader, "Sentence 4 of paragraph 30 goes");  // once in the book
+  const std::string& text = reader.logic().book_text();
+  const auto position = static_cast<int32_t>(text.find("Sentence 4 of paragraph 30 goes") + 1);
+  const PageIndex& pages = reader.logic().pages();
+  int page = 1;  // the page holding the term, which is once in the book
+  while (page < pages.count && pages.PageStart(page + 1) <= position) ++page;
   ASSERT_GT(page, 3);
   EnterTerm(reader, "SENTENCE 4 OF PARAGRAPH 30 GOES");
   Press(reader, Qt::Key_P);

@@ -9,8 +9,8 @@
 namespace vireo {
 namespace {
 
-// Checks a `vireo-tool pages` report: one line "page start bold italic
-// underline" per page, numbered from 1 with starts that grow, then "passed".
+// A pages report: lines "page start bold italic underline" from page 1, starts growing, then
+// "passed".
 void ExpectReport(const std::string& report, int minimum_pages) {
   std::istringstream lines(report);
   std::string line;

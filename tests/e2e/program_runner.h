@@ -11,8 +11,7 @@
 
 namespace vireo::test {
 
-// A copy of the reader in a fresh program folder: the executable and the
-// helper library, as an installation has them.
+// A fresh program folder holding copies of the reader, its helper library and the tool.
 class ProgramFolder {
  public:
   ProgramFolder() {
@@ -37,9 +36,8 @@ struct RunResult {
   std::string err;
 };
 
-// Runs a shell command line with extra "NAME=value" settings in the
-// environment, capturing its output; the exit status is -1 when it did not
-// exit normally.
+// Runs a shell command with extra "NAME=value" settings, capturing its output; status -1
+// when it did not exit normally.
 inline RunResult Run(const std::string& command, const std::vector<std::string>& environment,
                      const TempFolder& scratch) {
   std::string line;
