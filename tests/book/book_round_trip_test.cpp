@@ -1,5 +1,4 @@
-// The ebook maker and the reader together: whatever text goes into a book,
-// the reader shows exactly the reformatted text.
+// The ebook maker and the reader together: the reader shows exactly the reformatted text.
 
 #include <gtest/gtest.h>
 
@@ -58,11 +57,9 @@ TEST_F(RoundTrip, EveryByteValueAndLongRunsOfBlanksAndLineEnds) {
 TEST_F(RoundTrip, HostilePieces) {
   std::mt19937 random(5);
   std::vector<std::string> pieces = test::ReformattingPieces();
-  for (const char* extra :
-       {"&amp;", "&#201;", "&eacute;", "&#x41;", "\xC9", " \xC8", "\xA9", "\xB3", "f0", "f 0",
-        "the", "There", "tre", "\xFF", "\x00", "&#", ";", "tion"}) {
-    pieces.emplace_back(extra);
-  }
+  pieces.insert(pieces.end(),
+                {"&amp;", "&#201;", "&eacute;", "&#x41;", "\xC9", " \xC8", "\xA9", "\xB3", "f0",
+                 "f 0", "the", "There", "tre", "\xFF", std::string(1, '\0'), "&#", ";", "tion"});
   for (int round = 0; round < 15; ++round) {
     ExpectRoundTrip(test::RandomFromPieces(random, pieces, 400), "round " + std::to_string(round));
   }
@@ -70,8 +67,7 @@ TEST_F(RoundTrip, HostilePieces) {
 
 TEST_F(RoundTrip, TheDetailsComeBack) {
   const BookReadResult book = MakeAndRead("text", {}, "M\xE9lanie & Co", "\xC9t\xE9 \xA9 2001");
-  // The word codes (201, 233 ...) and 169 cannot stand in a detail field;
-  // they are written as references there, and details are shown as stored.
+  // Word codes (201, 233) and 169 are stored as references and shown as stored.
   EXPECT_EQ(book.author, "M&#233;lanie & Co");
   EXPECT_EQ(book.stored_title, "&#201;t&#233; &#169; 2001");
   EXPECT_EQ(book.title, "Book");
@@ -79,21 +75,12 @@ TEST_F(RoundTrip, TheDetailsComeBack) {
 
 TEST(PackableText, DetectsUtf8AndConvertsItToWindows1252) {
   EXPECT_EQ(DetectEncoding("caf\xE9"), TextEncoding::kWindows1252);
-  EXPECT_EQ(DetectEncoding("plain ASCII"), TextEncoding::kWindows1252);
-  EXPECT_EQ(DetectEncoding("\xC3\xA9t\xC3\xA9"), TextEncoding::kUtf8);
   const std::string utf8 =
       "\xEF\xBB\xBF"
       "caf\xC3\xA9 \xE2\x82\xAC \xCE\xB1 \xC2\x85!";
   ASSERT_EQ(DetectEncoding(utf8), TextEncoding::kUtf8);
-  // é is 233, a word code, written as a reference; the euro sign is 128;
-  // alpha has no Windows-1252 character, the C1 control 133 neither.
+  // The word code 233 becomes a reference; alpha and the C1 control 133 have no character.
   EXPECT_EQ(PackableText(utf8, TextEncoding::kUtf8), "caf&#233; \x80 &#945; ?!");
-}
-
-TEST(PackableText, EscapesWhatThePackedFormCannotCarry) {
-  EXPECT_EQ(PackableText("a&b\xC8\xA9\xC9\xB3\x01\xFA\xF9", TextEncoding::kWindows1252),
-            "a&amp;b&#200;&#169;&#201;&#179;&#1;&#250;\xF9");
-  EXPECT_EQ(PackableDetail("a&b\xC8\xA9", TextEncoding::kWindows1252), "a&b\xC8&#169;");
 }
 
 class MakeEbookTest : public ::testing::Test {
@@ -106,15 +93,6 @@ class MakeEbookTest : public ::testing::Test {
   test::TempFolder folder_;
 };
 
-TEST_F(MakeEbookTest, WritesAnExecutableBookBehindTheStub) {
-  const MakeResult result = MakeEbook(Request("Hello.\n"));
-  ASSERT_TRUE(result.ok) << result.message;
-  const std::string file = test::ReadFile(folder_.File("out"));
-  EXPECT_EQ(file.substr(0, kStub.size() + HeaderMarker().size()), kStub + HeaderMarker());
-  const auto permissions = std::filesystem::status(folder_.File("out")).permissions();
-  EXPECT_NE(permissions & std::filesystem::perms::owner_exec, std::filesystem::perms::none);
-}
-
 TEST_F(MakeEbookTest, AStubThatIsABookIsCutAtItsMarker) {
   ASSERT_TRUE(MakeEbook(Request("first")).ok);
   MakeRequest again = Request("second");
@@ -126,15 +104,13 @@ TEST_F(MakeEbookTest, AStubThatIsABookIsCutAtItsMarker) {
             kStub + HeaderMarker().substr(0, 1));
 }
 
-// A missing or empty text is the command line tool's test.
+// A missing or empty text, and a book that runs, are the e2e tests'.
 TEST_F(MakeEbookTest, AMissingStubOrAnUnwritableOutputLeavesNoFile) {
   std::filesystem::create_directory(folder_.File("a-folder"));
-  MakeRequest bad[3] = {Request("x"), Request("x"), Request("x")};
+  MakeRequest bad[2] = {Request("x"), Request("x")};
   bad[0].stub_path = folder_.File("missing-stub");
-  bad[1].out_path = folder_.File("no/such/folder/out");
-  bad[2].out_path = folder_.File("a-folder");
+  bad[1].out_path = folder_.File("a-folder");
   for (const MakeRequest& request : bad) EXPECT_FALSE(MakeEbook(request).ok) << request.out_path;
-  EXPECT_NE(MakeEbook(bad[2]).message.find("cannot write"), std::string::npos);
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_.path()), {}), 3)
       << "only the text, the stub and the folder: no temporary left behind";
   EXPECT_TRUE(std::filesystem::is_empty(folder_.File("a-folder")));

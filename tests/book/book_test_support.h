@@ -12,13 +12,11 @@
 
 namespace vireo::test {
 
-// The descrambling offsets of one 12-character period, worked out by hand
-// from the unpacker's counter (k = 0, -1, 0, 1, 2, 3, 4, 5, 4, 3, 2, 1; odd
-// positions subtract k + 2, even positions add 2 - k).
+// Descrambling offsets of one 12-character period, by hand from the counter
+// k = 0, -1, 0, 1, 2, 3, 4, 5, 4, 3, 2, 1 (odd positions -(k + 2), even 2 - k).
 inline constexpr int kHandOffsets[12] = {-2, 3, -2, 1, -4, -1, -6, -3, -6, -1, -4, 1};
 
-// The stored form of plain codes (already word-contracted): each code minus
-// its position's offset.
+// The stored form of word-contracted codes: each minus its position's offset.
 inline std::string HandScramble(const std::string& plain) {
   std::string stored = plain;
   for (size_t i = 0; i < stored.size(); ++i) {
@@ -29,17 +27,15 @@ inline std::string HandScramble(const std::string& plain) {
   return stored;
 }
 
-// A packed body around a text and a detail block, in stored order: lead-in,
-// second half, details, first half, trailer. The text and details must hold
-// only codes that stand for themselves (no blank, no full stop, no word code).
+// A packed body in stored order: lead-in, second half, details, first half,
+// trailer. Use only codes that stand for themselves (no blank, full stop, word code).
 inline std::string HandPackedBody(const std::string& first_half, const std::string& second_half,
                                   const std::string& details) {
   return HandScramble(std::string(2000, 'x') + second_half + details + first_half +
                       std::string(2000, 'y'));
 }
 
-// Logs into a fresh temporary folder for the length of a test and clears the
-// action list; LogText() gives the log so far.
+// Logs into a fresh temporary folder for the length of a test; clears the actions.
 class LogCapture {
  public:
   LogCapture() {
@@ -48,7 +44,6 @@ class LogCapture {
   }
   ~LogCapture() { SetLogFolder(""); }
   std::string LogText() const { return ReadFile(folder_.File("log.txt")); }
-  // The entries of the action list, in order.
   static std::vector<std::string> Entries() {
     std::vector<std::string> entries;
     for (int i = 1; i <= Actions().position; ++i) entries.push_back(Actions().text[i]);

@@ -1,9 +1,7 @@
 #pragma once
 
-// Random texts for property tests: plain random bytes, and texts built from
-// the pieces the book code treats specially, so that rare combinations
-// (quotes before line ends, blank runs, scene breaks, word-table fragments)
-// come up often.
+// Random texts for property tests: random bytes, and texts of the pieces the
+// book code treats specially, so that rare combinations come up often.
 
 #include <cctype>
 #include <random>
@@ -37,13 +35,9 @@ inline const std::vector<std::string>& ReformattingPieces() {
   return pieces;
 }
 
-}  // namespace vireo::test
-
-namespace vireo::test {
-
-// Prose-like text: sentences of common words, dialogue in quotes, lines
-// wrapped at about 72 characters, paragraphs separated by empty lines, now
-// and then a scene break, dashes, an ellipsis or an underscored word.
+// Prose-like text: sentences of common words and dialogue, lines wrapped at
+// about 72, empty lines between paragraphs, now and then a scene break, dashes,
+// an ellipsis or an underscored word.
 inline std::string ProseLikeText(std::mt19937& random, size_t length) {
   static const std::vector<std::string> words = {
       "the",  "and",   "of",  "to",     "that", "in",    "he",   "shall", "unto",   "for",

@@ -20,24 +20,19 @@ std::string RandomCodes(std::mt19937& random, size_t count) {
   return codes;
 }
 
-// A descrambled body: codes, the detail block between two section marks,
-// codes; the parts about as long once expanded as the lead-in and the
-// trailer, so that the cuts fall on every kind of code and sometimes miss
-// the marks.
-std::string RandomDescrambledBody(std::mt19937& random) {
-  std::uniform_int_distribution<size_t> side(700, 1200);
-  std::uniform_int_distribution<size_t> details(0, 20);
-  return RandomCodes(random, side(random)) + kSectionMark + RandomCodes(random, details(random)) +
-         kSectionMark + RandomCodes(random, side(random));
-}
-
 TEST(ExpandInReadingOrder, EqualsDecodeBinFollowedByBrnPostExtract) {
   std::mt19937 random(5);
   test::LogCapture log;
   int fused = 0;
   int refused = 0;
+  // Codes, details between two section marks, codes: each side about as long
+  // expanded as the lead-in or trailer, so the cuts fall on every kind of code.
+  std::uniform_int_distribution<size_t> side(700, 1200);
+  std::uniform_int_distribution<size_t> details(0, 20);
   for (int round = 0; round < 1000; ++round) {
-    const std::string descrambled = RandomDescrambledBody(random);
+    const std::string descrambled = RandomCodes(random, side(random)) + kSectionMark +
+                                    RandomCodes(random, details(random)) + kSectionMark +
+                                    RandomCodes(random, side(random));
     std::string stored = descrambled;
     Scramble(stored);
     ClearActions();
@@ -49,7 +44,6 @@ TEST(ExpandInReadingOrder, EqualsDecodeBinFollowedByBrnPostExtract) {
 
     const std::optional<ExtractedBook> book = ExpandInReadingOrder(descrambled);
     if (!book) {
-      // The stages then run in turn, and fail.
       ASSERT_TRUE(stages_failed) << round;
       ++refused;
       continue;
@@ -59,8 +53,7 @@ TEST(ExpandInReadingOrder, EqualsDecodeBinFollowedByBrnPostExtract) {
     ASSERT_EQ(book->text, stages.body()) << round;
     ASSERT_EQ(book->detail_block, stages.detail_block()) << round;
   }
-  // Both shapes come up often: bodies too short once expanded and bodies
-  // whose marks fall in the lead-in or the trailer are refused.
+  // Bodies too short once expanded, or with marks in the lead-in or trailer, are refused.
   EXPECT_GT(fused, 300);
   EXPECT_GT(refused, 100);
 }

@@ -1,9 +1,7 @@
 #pragma once
 
-// The paragraph reformatting written out step by step as whole-text
-// replacements through the text helpers, exactly in the order the reader
-// defines. Tests and the fuzz target hold the fast passes of clsStripCR to
-// it, and the round-trip tests use it as the oracle.
+// The paragraph reformatting as whole-text replacements through the text
+// helpers, step by step: the oracle for clsStripCR's fast passes and round trips.
 
 #include <string>
 #include <vector>
@@ -22,10 +20,9 @@ inline void ReplaceKnownCharStepByStep(std::string& text, const FormattingOption
   const std::string q = "\"";
   const std::string cr = "\r";
   const std::string pm(ParaMark());
-  const std::string italic_off = "\x83";
-  const std::string bold_off = "\x81";
-  const std::string underline_off = "\x88";
   const std::string scene_break = "\x84* * *";
+  // Closing quotes, then italic, bold and underline off.
+  const std::string closers[] = {q, "'", "\x83", "\x81", "\x88"};
   // 1. Underscores alternate between italic on and off.
   if (options.underscores) {
     bool on = true;
@@ -42,30 +39,19 @@ inline void ReplaceKnownCharStepByStep(std::string& text, const FormattingOption
   // 3. Tabs.
   ReplaceIfPresent(text, "\t", "   ");
   // 4. Quotes.
-  MyReplace(text, "`", "'");
-  MyReplace(text, "\x91", "'");
-  MyReplace(text, "\x92", "'");
-  MyReplace(text, "\x93", q);
-  MyReplace(text, "\x94", q);
+  for (const char* quote : {"`", "\x91", "\x92"}) MyReplace(text, quote, "'");
+  for (const char* quote : {"\x93", "\x94"}) MyReplace(text, quote, q);
   ReplaceIfPresent(text, "''", q);
   // 5. Paragraph ends after closing quotes and closing markers.
   for (int i = 0; i <= 5; ++i) {
     const std::string s(static_cast<size_t>(i), ' ');
-    ReplaceIfPresent(text, q + s + cr, q + pm);
-    ReplaceIfPresent(text, "'" + s + cr, "'" + pm);
-    ReplaceIfPresent(text, italic_off + s + cr, italic_off + pm);
-    ReplaceIfPresent(text, bold_off + s + cr, bold_off + pm);
-    ReplaceIfPresent(text, underline_off + s + cr, underline_off + pm);
+    for (const std::string& mark : closers) ReplaceIfPresent(text, mark + s + cr, mark + pm);
     ReplaceIfPresent(text, q + s + q, q + pm + q);
   }
   // 6. The closing markers once more.
-  MyReplace(text, italic_off + cr, italic_off + pm);
-  MyReplace(text, bold_off + cr, bold_off + pm);
-  MyReplace(text, underline_off + cr, underline_off + pm);
+  for (int i = 2; i < 5; ++i) MyReplace(text, closers[i] + cr, closers[i] + pm);
   // 7. Sentence ends at line ends.
-  MyReplace(text, "." + cr, "." + pm);
-  MyReplace(text, "!" + cr, "!" + pm);
-  MyReplace(text, "?" + cr, "?" + pm);
+  for (const std::string end : {".", "!", "?"}) MyReplace(text, end + cr, end + pm);
   // 8. Lines of one to five blanks.
   for (int i = 1; i <= 5; ++i)
     MyReplace(text, cr + std::string(static_cast<size_t>(i), ' ') + cr, pm);

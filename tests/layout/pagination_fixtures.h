@@ -11,9 +11,7 @@
 
 namespace vireo::test {
 
-// Records the paginator's events as text, with the page count and the busy
-// flag at the moment each arrives: "current 25 (busy)", "passed 7 at 5",
-// "finished at 12".
+// Records the events with the page count and busy flag at each: "passed 7 at 5 (busy)".
 class EventRecorder : public ReindexEvents {
  public:
   EventRecorder(const PageIndex& index, std::function<bool()> busy)
