@@ -10,10 +10,8 @@
 
 namespace vireo::test {
 
-// A book display without a screen. Each box's buffer holds the number of the
-// page drawn into it (kBlank for plain paper, kTitlePage for the welcome
-// page); boxes keep a width, a left edge, a visibility and a place in their
-// frame's stack, so tests can ask what the reader sees at a point of a frame.
+// A book display without a screen: each box holds the number of the page drawn into it, and keeps
+// a width, a left edge, a visibility and a place in its frame's stack (what the reader sees).
 class FakeBookDisplay : public BookDisplay {
  public:
   static constexpr int kBlank = 0;
@@ -21,8 +19,7 @@ class FakeBookDisplay : public BookDisplay {
   static constexpr int kNothing = -200;  // no visible box at that point
   static constexpr double kFrameWidth = 4500;
 
-  // What one frame showed near its spine and near its outer edge at the
-  // moment a squeezed strip or a copy was drawn into a visible box.
+  // What a frame showed at its spine and outer edge when a visible box was drawn.
   struct FrameView {
     int box = 0;
     bool squeezed = false;  // drawn by StretchPage, else by CopyPage
@@ -89,8 +86,7 @@ class FakeBookDisplay : public BookDisplay {
   }
   bool BookLoaded() const override { return book_loaded; }
 
-  // True when every on-show and work box has the frame's full width at left
-  // 0 and the work boxes are hidden: the state between turns.
+  // The state between turns: boxes 0-3 full width at left 0, the work boxes hidden.
   bool AtRest() const {
     for (int box = 0; box < 4; ++box) {
       if (widths[box] != kFrameWidth || lefts[box] != 0) return false;
@@ -98,7 +94,7 @@ class FakeBookDisplay : public BookDisplay {
     return !visible[kLeftWorkBox] && !visible[kRightWorkBox];
   }
 
-  // Fills the page count's boxes as if the spread (left, right) were shown.
+  // The boxes on show as if the spread (left, right) were shown.
   void ShowSpread(int left, int right) {
     content[kLeftPageBox] = left;
     content[kRightPageBox] = right;
@@ -134,8 +130,7 @@ class FakeBookDisplay : public BookDisplay {
     events.push_back(std::move(event));
   }
 
-  // The page the reader sees at x twips from the left of a frame: the
-  // topmost visible box of the frame that covers x.
+  // The page seen x twips from a frame's left: the topmost visible box there.
   int ShownAt(int frame, double x) const {
     const auto& stack = stacks[frame];
     for (auto it = stack.rbegin(); it != stack.rend(); ++it) {

@@ -54,8 +54,7 @@ TEST_F(QtSurfaceTest, TextIsDrawnWithinItsLineAndMovesThePenOn) {
   EXPECT_GT(ink.width(), line.width() / 2);
 }
 
-// Runs are gathered and drawn together; each must still keep its own
-// colour, and an underline must not bridge the gap to the next run.
+// Runs are drawn together, yet each keeps its colour and its underline stops at its end.
 TEST_F(QtSurfaceTest, RunsKeepTheirColoursAndTheirOwnUnderlines) {
   surface.Clear();
   surface.SetForeColor(0x000000FF);  // red
@@ -67,24 +66,21 @@ TEST_F(QtSurfaceTest, RunsKeepTheirColoursAndTheirOwnUnderlines) {
   surface.SetCurrentX(0);
   surface.SetCurrentY(600);
   surface.DrawText("MM");
-  const double gap_left = surface.CurrentX();
-  surface.SetCurrentX(gap_left + 900);
+  const int gap = static_cast<int>(surface.CurrentX() / 15) + 30;
+  surface.SetCurrentX(surface.CurrentX() + 900);
   surface.DrawText("MM");
+
   const QImage& image = surface.image();
-
+  const auto ink = [&](int x, int y, int width) {
+    return InkBounds(image.copy(x, y, width, 30), qRgb(255, 255, 255)).translated(x, y);
+  };
   const int third = static_cast<int>(surface.TextWidth("MMM") / 15);
-  const QRect red_word = InkBounds(image.copy(0, 0, third, 20), qRgb(255, 255, 255));
-  const QRect blue_word = InkBounds(image.copy(third, 0, third, 20), qRgb(255, 255, 255));
-  ASSERT_FALSE(red_word.isNull());
-  ASSERT_FALSE(blue_word.isNull());
+  const QRect red_word = ink(0, 0, third), blue_word = ink(third, 0, third);
+  ASSERT_FALSE(red_word.isNull() || blue_word.isNull());
   EXPECT_GT(image.pixelColor(red_word.center()).red(), 200);
-  EXPECT_GT(image.pixelColor(third + blue_word.center().x(), blue_word.center().y()).blue(), 200);
-
-  const int gap = static_cast<int>(gap_left / 15) + 30;
-  const QRect under_gap = InkBounds(image.copy(gap, 40, 20, 30), qRgb(255, 255, 255));
-  const QRect under_word = InkBounds(image.copy(5, 40, 20, 30), qRgb(255, 255, 255));
-  EXPECT_TRUE(under_gap.isNull()) << "underline across the gap";
-  EXPECT_FALSE(under_word.isNull());
+  EXPECT_GT(image.pixelColor(blue_word.center()).blue(), 200);
+  EXPECT_TRUE(ink(gap, 40, 20).isNull()) << "underline across the gap";
+  EXPECT_FALSE(ink(5, 40, 20).isNull());
 }
 
 TEST(QtSurface, ClearPaintsTheBackColourAndTheTextureOnceUnscaledAndTextLeavesThemShowing) {
@@ -102,7 +98,6 @@ TEST(QtSurface, ClearPaintsTheBackColourAndTheTextureOnceUnscaledAndTextLeavesTh
   surface.SetCurrentY(0);
   surface.DrawText("i");
   ASSERT_EQ(&surface.image(), &page);  // and the text is on it
-  EXPECT_EQ(page.format(), QImage::Format_ARGB32_Premultiplied);
   EXPECT_EQ(page.pixelColor(0, 0), QColor(0, 0, 255)) << "no box painted behind the text";
   EXPECT_EQ(page.pixelColor(9, 9), QColor(0, 0, 255));
   EXPECT_EQ(page.pixelColor(10, 10), QColor(0, 255, 0));
