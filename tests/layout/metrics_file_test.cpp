@@ -9,7 +9,7 @@ namespace {
 
 std::string Line(double first, double rest, const char* separator = " ") {
   std::string line = std::to_string(first);
-  for (int i = 1; i < 255; ++i) line += separator + std::to_string(rest);
+  for (int i = 1; i < 255; ++i) line.append(separator).append(std::to_string(rest));
   return line + "\n";
 }
 
