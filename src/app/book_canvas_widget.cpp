@@ -115,8 +115,10 @@ void BookCanvasWidget::RefreshBox(int box) {
   update(FrameRect(box % 2).toAlignedRect());
 }
 
+// Boxes are drawn 1:1 at whole pixels, clipped to the frame: the raster
+// engine then copies rows instead of resampling the page.
 void BookCanvasWidget::PaintFrame(QPainter& painter, int frame) const {
-  const QRectF area = FrameRect(frame);
+  const QRect area = FrameRect(frame).toRect();
   painter.save();
   painter.setClipRect(area);
   for (int box : stacking_[frame]) {
@@ -124,9 +126,9 @@ void BookCanvasWidget::PaintFrame(QPainter& painter, int frame) const {
     if (!place.visible || place.width <= 0) continue;
     const QImage& image = BoxImage(box);
     const qreal ratio = image.devicePixelRatio();
-    const QRectF target(area.left() + Pixels(place.left), area.top(), Pixels(place.width),
-                        area.height());
-    const QRectF source(0, 0, target.width() * ratio, target.height() * ratio);
+    const QRect target(QPoint(area.left() + qRound(Pixels(place.left)), area.top()),
+                       QSize(qRound(Pixels(place.width)), area.height()));
+    const QRect source(QPoint(0, 0), (QSizeF(target.size()) * ratio).toSize());
     painter.drawImage(target, image, source);
   }
   painter.restore();
