@@ -64,6 +64,13 @@ class FakeSurface : public Surface {
   mutable int width_queries = 0;
   int clears = 0;
   std::vector<Run> runs;
+
+  // The text of every run, in drawing order.
+  std::vector<std::string> RunTexts() const {
+    std::vector<std::string> texts;
+    for (const Run& run : runs) texts.push_back(run.text);
+    return texts;
+  }
 };
 
 }  // namespace vireo::test

@@ -59,12 +59,6 @@ class PagePlotterTest : public ::testing::Test {
   }
   ~PagePlotterTest() override { ResetGlobalSettings(); }
 
-  static std::vector<std::string> Texts(const test::FakeSurface& surface) {
-    std::vector<std::string> texts;
-    for (const auto& run : surface.runs) texts.push_back(run.text);
-    return texts;
-  }
-
   FakePageBoxes boxes;
   ReaderPreferences prefs;
   test::RecordingPump pump;
@@ -78,7 +72,7 @@ TEST_F(PagePlotterTest, APageIsComposedOnItsPaperWithItsNumberCentredAtTheFoot) 
   EXPECT_THAT(boxes.calls, ElementsAre("texture 5 2", "cover 5 7", "search label"));
 
   const auto& box = boxes.boxes[5];
-  ASSERT_THAT(Texts(box), ElementsAre("Text of page 7", "7"));
+  ASSERT_THAT(box.RunTexts(), ElementsAre("Text of page 7", "7"));
   // Text at the default borders: x = 400, first line at y = 300.
   EXPECT_EQ(box.runs[0].x, 400);
   EXPECT_EQ(box.runs[0].y, 300);
@@ -97,15 +91,15 @@ TEST_F(PagePlotterTest, PagesOutsideTheBookDrawNothingAndWithoutABookTheTitlePag
   boxes.boxes[4].DrawText("old page");
   for (int page : {0, 10, -2}) plotter.PlotOnPage(0, 4, page);
   EXPECT_THAT(boxes.calls, IsEmpty());
-  EXPECT_THAT(Texts(boxes.boxes[4]), ElementsAre("old page"));
-  EXPECT_THAT(Texts(boxes.boxes[0]), IsEmpty());
+  EXPECT_THAT(boxes.boxes[4].RunTexts(), ElementsAre("old page"));
+  EXPECT_THAT(boxes.boxes[0].RunTexts(), IsEmpty());
   EXPECT_FALSE(boxes.placement.has_value());
 
   boxes.book_loaded = false;
   plotter.PlotOnPage(1, 6, 3);
-  EXPECT_THAT(Texts(boxes.boxes[6]), IsEmpty());
-  EXPECT_THAT(Texts(boxes.boxes[1]), Contains("Welcome to Vireo!"));
-  EXPECT_THAT(Texts(boxes.boxes[0]), Contains("Hints:"));
+  EXPECT_THAT(boxes.boxes[6].RunTexts(), IsEmpty());
+  EXPECT_THAT(boxes.boxes[1].RunTexts(), Contains("Welcome to Vireo!"));
+  EXPECT_THAT(boxes.boxes[0].RunTexts(), Contains("Hints:"));
   EXPECT_TRUE(boxes.placement.has_value());
 }
 

@@ -46,12 +46,6 @@ class PrintPageTest : public ::testing::Test {
     return composer.lines();
   }
 
-  std::vector<std::string> RunTexts() const {
-    std::vector<std::string> texts;
-    for (const auto& run : surface.runs) texts.push_back(run.text);
-    return texts;
-  }
-
   FakeSurface surface;
   clsFontMetrics metrics;
   test::RecordingPump pump;
@@ -143,7 +137,7 @@ TEST_F(PrintPageTest, StyleCodesSwitchTheFontAndAreNotDrawn) {
   Lines(
       Page("\x80"
            "bold\x81 plain \x87under\x88"));
-  ASSERT_THAT(RunTexts(), ElementsAre("bold", " plain ", "under"));
+  ASSERT_THAT(surface.RunTexts(), ElementsAre("bold", " plain ", "under"));
   EXPECT_TRUE(surface.runs[0].bold);
   EXPECT_FALSE(surface.runs[1].bold);
   EXPECT_EQ(surface.runs[1].x, 520);  // four bold letters of 30
@@ -155,7 +149,7 @@ TEST_F(PrintPageTest, HighlightsEveryMatchOfTheSearchTermWhateverItsCaseButNotTh
   PageSettings settings = Page("the quick Fox jumps, fox");
   settings.search_term = "fOX";
   Lines(settings);
-  ASSERT_THAT(RunTexts(), ElementsAre("the quick ", "Fox", " jumps, ", "fox"));
+  ASSERT_THAT(surface.RunTexts(), ElementsAre("the quick ", "Fox", " jumps, ", "fox"));
   EXPECT_EQ(surface.runs[1].x, 500);
   EXPECT_THAT((std::vector{surface.runs[0].colour, surface.runs[1].colour, surface.runs[2].colour,
                            surface.runs[3].colour}),
