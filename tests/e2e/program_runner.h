@@ -53,6 +53,13 @@ inline RunResult Run(const std::string& command, const std::vector<std::string>&
   return result;
 }
 
+// Run with a time limit: a program still running after `seconds` is killed
+// (status 124 from timeout, 137 when it ignored the polite signal).
+inline RunResult RunWithin(int seconds, const std::string& command,
+                           const std::vector<std::string>& environment, const TempFolder& scratch) {
+  return Run("timeout -k 5 " + std::to_string(seconds) + " " + command, environment, scratch);
+}
+
 // The environment of an unattended reader: no display, no dialogs.
 inline std::vector<std::string> Unattended(const TempFolder& folder,
                                            std::vector<std::string> more = {}) {
