@@ -46,7 +46,7 @@ void BM_InstantTurnFromCache(benchmark::State& state) {
   }
   StderrInteraction user;
   MainWindow window(user, ProgramLocation{folder.string(), (folder / "Book").string()});
-  window.logic().Form_Load();
+  window.logic().lifecycle().Form_Load();
   window.show();
   QCoreApplication::processEvents();
   frmMain& reader = window.logic();
@@ -54,10 +54,10 @@ void BM_InstantTurnFromCache(benchmark::State& state) {
   for (auto _ : state) {
     if (reader.current_page() >= last) {
       state.PauseTiming();
-      reader.ShowPage(1);
+      reader.spread().ShowPage(1);
       state.ResumeTiming();
     }
-    reader.NextPage();
+    reader.spread().NextPage();
     // What the turn left to paint is painted, as back in the event loop.
     QCoreApplication::processEvents();
   }

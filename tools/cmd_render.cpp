@@ -55,15 +55,15 @@ class HeadlessReader {
     setenv("XDG_DATA_HOME", desktop_.path().toLocal8Bit().constData(), 1);
     application_ = std::make_unique<QApplication>(argc_, argv_);
     window_ = std::make_unique<MainWindow>(user_, ProgramLocation{ProgramFolder(), request.file});
-    started_ = window_->logic().Form_Load();
+    started_ = window_->logic().lifecycle().Form_Load();
     if (!started_) return;
     window_->show();
     frmMain& reader = window_->logic();
     if (request.single != reader.preferences().single_page_mode) {
       reader.preferences().single_page_mode = request.single;
-      reader.UpdateBookMode(false);
+      reader.view_commands().UpdateBookMode(false);
     }
-    reader.ShowPage(request.page);
+    reader.spread().ShowPage(request.page);
     QCoreApplication::processEvents();
   }
 
@@ -126,7 +126,7 @@ int RunSweep(const Arguments& arguments) {
   record();
   window.logic().preferences().instant_page_turn = false;
   window.pump().SetPauseObserver(record);
-  window.logic().NextPage();
+  window.logic().spread().NextPage();
   window.pump().SetPauseObserver(nullptr);
   record();
   if (!written) return Fail("cannot write the frames into " + request.output);

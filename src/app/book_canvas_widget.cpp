@@ -1,8 +1,11 @@
 #include "app/book_canvas_widget.h"
 
+#include <QFileInfo>
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
+
+#include "app/control_bar_widget.h"
 
 namespace vireo {
 namespace {
@@ -20,8 +23,15 @@ QImage BlankBuffer(double width_twips, double height_twips, qreal ratio) {
 
 }  // namespace
 
-BookCanvasWidget::BookCanvasWidget(QWidget* parent) : QWidget(parent) {
+BookCanvasWidget::BookCanvasWidget(QWidget* parent)
+    : QWidget(parent),
+      lstLanguages_(new QListWidget(this)),
+      lblLanguages_(new QLabel("Language:", this)) {
   setObjectName("BookCanvas");
+  lstLanguages_->setObjectName("lstLanguages");
+  lstLanguages_->addItem("English");
+  lstLanguages_->setFixedSize(110, 36);
+  lblLanguages_->setObjectName("lblLanguages");
   setMouseTracking(false);
   for (int box = 0; box < 8; ++box) {
     images_[box] = BlankBuffer(4500, 6000, 1);
@@ -52,19 +62,37 @@ void BookCanvasWidget::ApplyLayout(const BookViewLayout& layout) {
   stacking_[0] = {6, 4, 2, 0};
   stacking_[1] = {7, 5, 3, 1};
   update();
+  emit laidOut();
 }
 
 void BookCanvasWidget::SetBoxBackColour(int box, uint32_t bgr) {
   surfaces_[box]->SetBackColor(bgr);
 }
 
-void BookCanvasWidget::SetBoxTexture(int box, const QImage* texture) {
+void BookCanvasWidget::SetBoxTexture(int box, std::optional<int> slot) {
+  const QImage* texture = slot && *slot >= 0 && *slot < 4 ? Texture(*slot) : nullptr;
   if (texture != nullptr && !texture->isNull()) {
     surfaces_[box]->SetTexture(*texture);
   } else {
     surfaces_[box]->ClearTexture();
   }
   surfaces_[box]->Clear();
+}
+
+// Textures are decoded when first shown: a reader uses one paper of the four.
+bool BookCanvasWidget::LoadTexture(int slot, const std::string& path) {
+  if (slot < 0 || slot >= 4) return false;
+  texture_paths_[slot] = QString::fromLocal8Bit(path.c_str());
+  textures_[slot] = QImage();
+  return QFileInfo(texture_paths_[slot]).isReadable();
+}
+
+const QImage* BookCanvasWidget::Texture(int slot) {
+  if (textures_[slot].isNull() && !texture_paths_[slot].isEmpty()) {
+    textures_[slot].load(texture_paths_[slot]);
+    texture_paths_[slot].clear();  // a picture that does not load is tried once
+  }
+  return &textures_[slot];
 }
 
 void BookCanvasWidget::CopyBox(int source_box, int destination_box) {
@@ -94,8 +122,8 @@ double BookCanvasWidget::FrameWidth(int frame) const { return layout_.page_frame
 void BookCanvasWidget::SetBoxWidth(int box, double twips) { boxes_[box].width = twips; }
 void BookCanvasWidget::SetBoxLeft(int box, double twips) { boxes_[box].left = twips; }
 
-void BookCanvasWidget::SetBoxVisible(int box, bool visible) {
-  boxes_[box].visible = visible;
+void BookCanvasWidget::SetBoxVisible(int box, Visibility visibility) {
+  boxes_[box].visible = visibility == Visibility::kShown;
   RefreshBox(box);
 }
 
@@ -154,7 +182,31 @@ void BookCanvasWidget::paintEvent(QPaintEvent*) {
   }
 }
 
-void BookCanvasWidget::SetMarker(int page, double top, double bottom) {
+void BookCanvasWidget::SetLamp(Lamp lamp) {
+  if (lamp_ != nullptr) lamp_->SetColour(LampColour(lamp));
+}
+
+TwipsSize BookCanvasWidget::LanguageListSize() const {
+  return {lstLanguages_->width() * kTwipsPerPixel, lstLanguages_->height() * kTwipsPerPixel};
+}
+
+void BookCanvasWidget::PlaceLanguageList(const LanguageListPlacement& placement) {
+  const QRectF frame = FrameRect(0);
+  const auto at = [](double frame_pixels, double twips) {
+    return static_cast<int>(frame_pixels + static_cast<int>(Pixels(twips) + 0.5));
+  };
+  lstLanguages_->move(at(frame.left(), placement.list.left), at(frame.top(), placement.list.top));
+  lblLanguages_->adjustSize();
+  lblLanguages_->move(at(frame.left(), placement.caption_right) - lblLanguages_->width(),
+                      at(frame.top(), placement.caption_top));
+}
+
+void BookCanvasWidget::SetLanguageListVisible(bool visible) {
+  lstLanguages_->setVisible(visible);
+  lblLanguages_->setVisible(visible);
+}
+
+void BookCanvasWidget::SetLineMarker(int page, double top, double bottom) {
   marker_page_ = page;
   marker_top_ = top;
   marker_bottom_ = bottom;

@@ -2,24 +2,30 @@
 
 #include <QEvent>
 #include <QImage>
+#include <QLabel>
+#include <QListWidget>
 #include <QWidget>
 #include <array>
 #include <memory>
 #include <optional>
 #include <vector>
 
-#include "render/book_display.h"
 #include "render/book_view.h"
+#include "render/page_buffers.h"
 #include "render/qt_surface_qt.h"
 
 namespace vireo {
+
+class LampWidget;
 
 // The open book on screen: the edge lines, the two page frames and, inside
 // them, the page boxes Page(0)..Page(7). Every box is an image buffer of the
 // page size with a drawing surface; a box is a window onto its buffer that
 // can be narrowed, moved, hidden and stacked for the page-turn sweep.
-// Geometry is kept in twips (15 to a logical pixel).
-class BookCanvasWidget : public QWidget {
+// Geometry is kept in twips (15 to a logical pixel). The paper textures are
+// decoded when first shown. It also holds the language list beside the
+// title page and drives the status lamp on the control bar.
+class BookCanvasWidget : public QWidget, public PageBuffers {
   Q_OBJECT
 
  public:
@@ -28,37 +34,37 @@ class BookCanvasWidget : public QWidget {
   explicit BookCanvasWidget(QWidget* parent = nullptr);
   ~BookCanvasWidget() override;
 
-  // Places frames, boxes and lines; every buffer gets the page size and is
-  // repainted with its paper. Boxes return to full width at left 0.
-  void ApplyLayout(const BookViewLayout& layout);
-  const BookViewLayout& layout() const { return layout_; }
+  // PageBuffers. RefreshBox marks the box's frame for repainting when the
+  // box is on show: frames marked by the steps of one turn are painted
+  // together, at the next yield, lamp change or return to the event loop.
+  void ApplyLayout(const BookViewLayout& layout) override;
+  double FrameWidth(int frame) const override;
+  Surface& Box(int box) override { return *surfaces_[box]; }
+  void SetBoxBackColour(int box, uint32_t bgr) override;
+  void SetBoxTexture(int box, std::optional<int> slot) override;
+  bool LoadTexture(int slot, const std::string& path) override;
+  void CopyBox(int source_box, int destination_box) override;
+  void StretchBox(int source_box, int destination_box, double width_twips) override;
+  void RefreshBox(int box) override;
+  void SetBoxWidth(int box, double twips) override;
+  void SetBoxLeft(int box, double twips) override;
+  void SetBoxVisible(int box, Visibility visibility) override;
+  void RaiseBox(int box) override;
+  void SetLamp(Lamp lamp) override;
+  void SetLineMarker(int frame, double top, double bottom) override;
+  TwipsSize LanguageListSize() const override;
+  void PlaceLanguageList(const LanguageListPlacement& placement) override;
 
-  QtSurface& Box(int box) { return *surfaces_[box]; }
+  const BookViewLayout& layout() const { return layout_; }
   // The box's buffer with all drawing on it finished.
   const QImage& BoxImage(int box) const {
     surfaces_[box]->EndPainting();
     return images_[box];
   }
-  void SetBoxBackColour(int box, uint32_t bgr);
-  // Texture (nullptr: none), then the buffer is repainted with its paper.
-  void SetBoxTexture(int box, const QImage* texture);
-  void CopyBox(int source_box, int destination_box);
-  void StretchBox(int source_box, int destination_box, double width_twips);
-
-  double FrameWidth(int frame) const;
-  void SetBoxWidth(int box, double twips);
-  void SetBoxLeft(int box, double twips);
-  void SetBoxVisible(int box, bool visible);
   bool BoxVisible(int box) const { return boxes_[box].visible; }
-  void RaiseBox(int box);
-  // Marks the box's frame for repainting when the box is on show. Frames
-  // marked by the steps of one turn are painted together: at the next yield,
-  // lamp change or return to the event loop.
-  void RefreshBox(int box);
-
-  // A translucent band over lines of a page (page -1: none), in twips from
-  // the page's top.
-  void SetMarker(int page, double top, double bottom);
+  // The lamp shape the status lamp shows on (the control bar's Shape1).
+  void SetLampWidget(LampWidget* lamp) { lamp_ = lamp; }
+  void SetLanguageListVisible(bool visible);
 
   // The page box under a point of the widget (0 or 1), or nullopt; position
   // receives the point in twips relative to that page.
@@ -72,6 +78,8 @@ class BookCanvasWidget : public QWidget {
                  Qt::KeyboardModifiers modifiers, double x, double y);
   // A double click outside the pages: on the border of the book.
   void borderDoubleClicked();
+  // A new layout was applied (the window places the control bar).
+  void laidOut();
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -89,12 +97,18 @@ class BookCanvasWidget : public QWidget {
   void ForwardMouse(QMouseEvent* event);
   void PaintFrame(QPainter& painter, int frame) const;
   void ResizeBuffers(double width_twips, double height_twips);
+  const QImage* Texture(int slot);
 
   BookViewLayout layout_;
   std::array<QImage, 8> images_;
   std::array<std::unique_ptr<QtSurface>, 8> surfaces_;
   std::array<BoxPlace, 8> boxes_;
   std::array<std::vector<int>, 2> stacking_;  // bottom to top, per frame
+  std::array<QImage, 4> textures_;
+  std::array<QString, 4> texture_paths_;
+  LampWidget* lamp_ = nullptr;
+  QListWidget* lstLanguages_;
+  QLabel* lblLanguages_;
   int pressed_page_ = -1;
   int marker_page_ = -1;
   double marker_top_ = 0;

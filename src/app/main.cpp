@@ -30,14 +30,23 @@ void OnTerminate(int) {
   [[maybe_unused]] const auto written = write(g_signal_pipe[1], &byte, 1);
 }
 
-// SIGTERM and SIGINT ask the program to quit as Exit does.
+// SIGTERM and SIGINT ask the program to quit as Exit does. The handler is
+// in place before the start-up sequence; while the reader cannot close yet
+// (starting, paginating) the request is tried again at every yield until
+// it goes through.
 void QuitOnSignals(vireo::MainWindow& window) {
   if (socketpair(AF_UNIX, SOCK_STREAM, 0, g_signal_pipe) != 0) return;
   auto* notifier = new QSocketNotifier(g_signal_pipe[0], QSocketNotifier::Read, &window);
-  QObject::connect(notifier, &QSocketNotifier::activated, &window, [&window] {
+  auto* retry = new QTimer(&window);
+  retry->setInterval(0);
+  QObject::connect(retry, &QTimer::timeout, &window, [&window, retry] {
+    if (window.end_status() < 0) window.logic().lifecycle().Quit();
+    if (window.end_status() >= 0) retry->stop();
+  });
+  QObject::connect(notifier, &QSocketNotifier::activated, &window, [retry] {
     char byte = 0;
     [[maybe_unused]] const auto count = read(g_signal_pipe[0], &byte, 1);
-    window.logic().Quit();
+    retry->start();
   });
   std::signal(SIGTERM, OnTerminate);
   std::signal(SIGINT, OnTerminate);
@@ -79,11 +88,11 @@ void ScheduleAutomation(vireo::MainWindow& window) {
     QTimer::singleShot(300, &window, [&window, path] {
       if (window.grab().save(path)) std::printf("%s\n", path.toLocal8Bit().constData());
       std::fflush(stdout);
-      window.logic().Quit();
+      window.logic().lifecycle().Quit();
     });
   }
   if (const int delay = EnvironmentNumber("VIREO_QUIT_AFTER_MS"); delay >= 0) {
-    QTimer::singleShot(delay, &window, [&window] { window.logic().Quit(); });
+    QTimer::singleShot(delay, &window, [&window] { window.logic().lifecycle().Quit(); });
   }
 }
 
@@ -103,9 +112,11 @@ int main(int argc, char* argv[]) {
   vireo::MainWindow window(*user,
                            vireo::ProgramLocation{vireo::ProgramFolder(), vireo::ExecutablePath()});
   if (qt_user != nullptr) qt_user->set_parent(&window);
-  if (!window.logic().Form_Load()) return 1;
-  window.show();
   QuitOnSignals(window);
+  if (!window.logic().lifecycle().Form_Load()) return 1;
+  // A signal during start-up may already have closed the program.
+  if (window.end_status() >= 0) return window.end_status();
+  window.show();
   const char* keys = std::getenv("VIREO_KEYS");
   PressKeys(window, keys != nullptr ? keys : "", [&window] { ScheduleAutomation(window); });
   const int status = application.exec();

@@ -39,26 +39,21 @@ QColor FromBgr(uint32_t bgr) { return QColor(bgr & 0xFF, (bgr >> 8) & 0xFF, (bgr
 
 int Pixels(double twips) { return static_cast<int>(twips / kTwipsPerPixel + 0.5); }
 
-// Width of the control bar in twips, and its top below the pages when shown.
-constexpr double kBarWidth = 9000;
-constexpr double kBarFromBottom = 660;
-
 }  // namespace
 
 MainWindow::MainWindow(UserInteraction& user, ProgramLocation location)
-    : canvas_(new BookCanvasWidget(this)),
+    : user_(user),
+      canvas_(new BookCanvasWidget(this)),
       bar_(new ControlBarWidget(canvas_)),
       menu_(new OptionsMenu(this)),
-      lstLanguages_(new QListWidget(canvas_)),
-      lblLanguages_(new QLabel("Language:", canvas_)),
-      logic_(*this, user, pump_, std::move(location)) {
+      progress_(new QLabel(canvas_)),
+      logic_(*this, *canvas_, user, pump_, std::move(location)) {
   setObjectName("frmMain");
   setWindowTitle("Vireo");
   setCentralWidget(canvas_);
-  lstLanguages_->setObjectName("lstLanguages");
-  lstLanguages_->addItem("English");
-  lstLanguages_->setFixedSize(110, 36);
-  lblLanguages_->setObjectName("lblLanguages");
+  canvas_->SetLampWidget(bar_->Shape1);
+  progress_->setObjectName("lblProgress");
+  progress_->hide();
   QFont bar_font = bar_->font();
   bar_font.setPointSizeF(8);
   bar_->setFont(bar_font);
@@ -74,41 +69,53 @@ MainWindow::~MainWindow() = default;
 
 void MainWindow::ConnectCommands() {
   connect(canvas_, &BookCanvasWidget::pageMouse, this, &MainWindow::OnPageMouse);
-  connect(canvas_, &BookCanvasWidget::borderDoubleClicked, this, [this] { logic_.ToggleBar(); });
+  connect(canvas_, &BookCanvasWidget::borderDoubleClicked, this,
+          [this] { logic_.view_commands().ToggleBar(); });
+  connect(canvas_, &BookCanvasWidget::laidOut, this, [this] {
+    PlaceControlBar();
+    if (const auto& frame1 = canvas_->layout().frame1) {
+      bar_->move(Pixels(frame1->x), Pixels(frame1->y));
+    }
+  });
   const auto on = [this](auto* sender, auto signal, auto&& action) {
     connect(sender, signal, this, std::forward<decltype(action)>(action));
   };
-  on(bar_->cmdExit, &QPushButton::clicked, [this] { logic_.Quit(); });
-  on(bar_->cmdLoad, &QPushButton::clicked, [this] { logic_.mnuLoad_Click(); });
-  on(bar_->cmdBiggerFont, &QPushButton::clicked, [this] { logic_.cmdBiggerFont_Click(); });
-  on(bar_->cmdSmallerFont, &QPushButton::clicked, [this] { logic_.cmdSmallerFont_Click(); });
-  on(bar_->cmdFindNext, &QPushButton::clicked, [this] { logic_.FindNext(); });
-  on(bar_->cmdFindPrev, &QPushButton::clicked, [this] { logic_.FindPrev(); });
-  on(bar_->lblSearch, &ClickLabel::clicked, [this] { logic_.GetSearchTerm(); });
-  on(bar_->lblPageNum, &ClickLabel::clicked, [this] { logic_.GotoPage(); });
-  on(bar_->lblFontSize, &ClickLabel::clicked, [this] { logic_.GetNewFontSize(); });
+  ProgramLifecycle& lifecycle = logic_.lifecycle();
+  ViewCommands& view = logic_.view_commands();
+  SearchCommands& search = logic_.search();
+  on(bar_->cmdExit, &QPushButton::clicked, [&lifecycle] { lifecycle.Quit(); });
+  on(bar_->cmdLoad, &QPushButton::clicked, [&lifecycle] { lifecycle.mnuLoad_Click(); });
+  on(bar_->cmdBiggerFont, &QPushButton::clicked, [&view] { view.cmdBiggerFont_Click(); });
+  on(bar_->cmdSmallerFont, &QPushButton::clicked, [&view] { view.cmdSmallerFont_Click(); });
+  on(bar_->cmdFindNext, &QPushButton::clicked, [&search] { search.FindNext(); });
+  on(bar_->cmdFindPrev, &QPushButton::clicked, [&search] { search.FindPrev(); });
+  on(bar_->lblSearch, &ClickLabel::clicked, [&search] { search.GetSearchTerm(); });
+  on(bar_->lblPageNum, &ClickLabel::clicked, [this] { logic_.commands().GotoPage(); });
+  on(bar_->lblFontSize, &ClickLabel::clicked, [&view] { view.GetNewFontSize(); });
 }
 
 void MainWindow::ConnectMenu() {
   const auto on = [this](const char* item, auto&& action) {
     connect(menu_->Item(item), &QAction::triggered, this, std::forward<decltype(action)>(action));
   };
-  on("mnuExit", [this] { logic_.Quit(); });
-  on("mnuLoad", [this] { logic_.mnuLoad_Click(); });
-  on("mnuEraseBookmarks", [this] { logic_.mnuEraseBookmarks_Click(); });
-  on("mnuErasefile", [this] { logic_.mnuErasefile_Click(); });
-  on("mnuGetSearchTerm", [this] { logic_.GetSearchTerm(); });
-  on("mnuFindNext", [this] { logic_.FindNext(); });
-  on("mnuFindPrevious", [this] { logic_.FindPrev(); });
-  on("mnuGoto", [this] { logic_.GotoPage(); });
-  on("mnuFormatting", [this] { logic_.mnuFormatting_Click(); });
-  on("mnuJustified", [this] { logic_.mnuJustified_Click(); });
-  on("mnuIndentParagraphs", [this] { logic_.mnuIndentParagraphs_Click(); });
-  on("mnuUnderscores", [this] { logic_.mnuUnderscores_Click(); });
-  on("mnuExtraLine", [this] { logic_.mnuExtraLine_Click(); });
-  on("mnuHelp", [this] { logic_.mnuHelp_Click(); });
+  ReaderCommands& commands = logic_.commands();
+  SearchCommands& search = logic_.search();
+  on("mnuExit", [this] { logic_.lifecycle().Quit(); });
+  on("mnuLoad", [this] { logic_.lifecycle().mnuLoad_Click(); });
+  on("mnuEraseBookmarks", [&commands] { commands.mnuEraseBookmarks_Click(); });
+  on("mnuErasefile", [&commands] { commands.mnuErasefile_Click(); });
+  on("mnuGetSearchTerm", [&search] { search.GetSearchTerm(); });
+  on("mnuFindNext", [&search] { search.FindNext(); });
+  on("mnuFindPrevious", [&search] { search.FindPrev(); });
+  on("mnuGoto", [&commands] { commands.GotoPage(); });
+  on("mnuFormatting", [&commands] { commands.mnuFormatting_Click(); });
+  on("mnuJustified", [&commands] { commands.mnuJustified_Click(); });
+  on("mnuIndentParagraphs", [&commands] { commands.mnuIndentParagraphs_Click(); });
+  on("mnuUnderscores", [&commands] { commands.mnuUnderscores_Click(); });
+  on("mnuExtraLine", [&commands] { commands.mnuExtraLine_Click(); });
+  on("mnuHelp", [&commands] { commands.mnuHelp_Click(); });
   on("mnuToggleBar", [this] {
-    if (!logic_.paginator_busy()) logic_.ToggleBar();
+    if (!logic_.paginator_busy()) logic_.view_commands().ToggleBar();
   });
   on("mnuCopyPage",
      [this] { QApplication::clipboard()->setImage(canvas_->BoxImage(kLeftPageBox)); });
@@ -119,12 +126,10 @@ void MainWindow::ConnectMenu() {
 
 // Menu items and buttons whose features come in later versions say so.
 void MainWindow::ConnectPlannedItems() {
-  const auto say = [this](const char* text) {
-    return [this, text] { logic_.ShowLoadMessage(text); };
-  };
+  const auto say = [this](const char* text) { return [this, text] { Say(text); }; };
   const auto about = [this] {
-    logic_.ShowLoadMessage("Vireo " + AppVersion() + "\nMarrowind Software, " +
-                           std::string(kMakerCountry) + "\n" + std::string(kMakerHomePage));
+    Say("Vireo " + AppVersion() + "\nMarrowind Software, " + std::string(kMakerCountry) + "\n" +
+        std::string(kMakerHomePage));
   };
   connect(bar_->cmdAbout, &QPushButton::clicked, this, about);
   connect(menu_->Item("mnuAbout"), &QAction::triggered, this, about);
@@ -148,6 +153,8 @@ void MainWindow::ConnectPlannedItems() {
   connect(menu_->Item("mnuSetLang0"), &QAction::triggered, this, language);
   connect(menu_->Item("mnuSetLang1"), &QAction::triggered, this, language);
 }
+
+void MainWindow::Say(const std::string& text) { user_.ShowMessage(text, "Vireo"); }
 
 void MainWindow::OpenAddress(const QString& address) {
   if (NonInteractiveMode()) {
@@ -184,47 +191,28 @@ void MainWindow::OnPageMouse(int page, QEvent::Type type, Qt::MouseButton button
   event.shift = modifiers & Qt::ShiftModifier;
   event.ctrl = modifiers & Qt::ControlModifier;
   event.y_twips = y;
-  const PageTextArea& area = logic_.text_area();
-  const PageMouseContext context{
-      logic_.preferences().single_page_mode ? PageMode::kSingle : PageMode::kDouble,
-      logic_.navigator().navigation_busy(),
-      area.top_border,
-      area.line_pitch,
-      area.lines_per_page,
-      marked_line_};
-  const PageMouseDecision decision = DecidePageMouse(event, context);
-  switch (decision.action) {
-    case PageMouseAction::kTurnForward:
-      logic_.NextPage();
-      break;
-    case PageMouseAction::kTurnBack:
-      logic_.PreviousPage();
-      break;
-    case PageMouseAction::kContextMenu:
-      menu_->popup(QCursor::pos());
-      break;
-    case PageMouseAction::kMarkLine:
-    case PageMouseAction::kMoveMark:
-      marked_line_ = decision.line;
-      canvas_->SetMarker(page, decision.band_top, decision.band_bottom);
-      break;
-    case PageMouseAction::kSpeakLine:
-      // FIXME: the marked line goes to text-to-speech once speech lands.
-      marked_line_ = 0;
-      canvas_->SetMarker(-1, 0, 0);
-      break;
-    case PageMouseAction::kNone:
-      break;
-  }
+  logic_.commands().Page_Mouse(event);
 }
+
+void MainWindow::ShowContextMenu() { menu_->popup(QCursor::pos()); }
 
 void MainWindow::ShowSplash() {
   splash_ = std::make_unique<SplashWindow>();
   splash_->show();
 }
 
-void MainWindow::SetSplashStatus(std::string_view text) {
-  if (splash_) splash_->SetStatus(FromWindows1252(text));
+// The splash shows the progress while it is up; afterwards a status line
+// at the foot of the book does.
+void MainWindow::ShowProgress(std::string_view text) {
+  if (splash_) {
+    splash_->SetStatus(FromWindows1252(text));
+    return;
+  }
+  progress_->setText(FromWindows1252(text));
+  progress_->adjustSize();
+  progress_->move(8, canvas_->height() - progress_->height() - 4);
+  progress_->setVisible(!text.empty());
+  progress_->raise();
 }
 
 void MainWindow::UnloadSplash() {
@@ -261,16 +249,10 @@ void MainWindow::SetExitCaption(std::string_view caption) {
   menu_->Item("mnuExit")->setText(exit_caption_);
 }
 
-uint32_t MainWindow::SystemWindowColour() {
-  return ToBgr(QApplication::palette().color(QPalette::Base));
-}
-
-uint32_t MainWindow::SystemWindowTextColour() {
-  return ToBgr(QApplication::palette().color(QPalette::Text));
-}
-
-uint32_t MainWindow::SystemButtonTextColour() {
-  return ToBgr(QApplication::palette().color(QPalette::ButtonText));
+WindowColours MainWindow::SystemColours() const {
+  const QPalette palette = QApplication::palette();
+  return {ToBgr(palette.color(QPalette::Base)), ToBgr(palette.color(QPalette::Text)),
+          ToBgr(palette.color(QPalette::ButtonText))};
 }
 
 WindowSize MainWindow::ScreenSize() const {
@@ -296,104 +278,41 @@ void MainWindow::SetWindowWidth(double twips) { resize(std::max(1, Pixels(twips)
 
 void MainWindow::SetWindowHeight(double twips) { resize(width(), std::max(1, Pixels(twips))); }
 
-void MainWindow::MaximiseWindow() { showMaximized(); }
-void MainWindow::RestoreWindow() { showNormal(); }
-
-bool MainWindow::IsMaximisedOrMinimised() const {
-  return (windowState() & (Qt::WindowMaximized | Qt::WindowMinimized)) != 0;
+WindowState MainWindow::State() const {
+  if (windowState() & Qt::WindowMaximized) return WindowState::kMaximised;
+  if (windowState() & Qt::WindowMinimized) return WindowState::kMinimised;
+  return WindowState::kNormal;
 }
 
-void MainWindow::ApplyLayout(const BookViewLayout& layout) {
-  canvas_->ApplyLayout(layout);
-  PlaceControlBar();
-  if (layout.frame1) bar_->move(Pixels(layout.frame1->x), Pixels(layout.frame1->y));
+void MainWindow::SetState(WindowState state) {
+  if (state == WindowState::kMaximised) {
+    showMaximized();
+  } else if (state == WindowState::kNormal) {
+    showNormal();
+  }
 }
 
 void MainWindow::PlaceControlBar() {
-  const double inner_width = width() * kTwipsPerPixel;
-  const double width = std::min(kBarWidth, inner_width - 400);
-  bar_->resize(Pixels(width), Pixels(kBarFromBottom - 60));
-  const double left = (inner_width - width) / 2 - 45;
-  bar_->move(Pixels(left), height() - Pixels(kBarFromBottom));
+  const TwipsRect place = ControlBarRect(width() * kTwipsPerPixel, height() * kTwipsPerPixel);
+  bar_->resize(Pixels(place.width), Pixels(place.height));
+  bar_->move(Pixels(place.left), Pixels(place.top));
 }
 
-Surface& MainWindow::Box(int box) { return canvas_->Box(box); }
-void MainWindow::SetBoxBackColour(int box, uint32_t bgr) { canvas_->SetBoxBackColour(box, bgr); }
-
-void MainWindow::SetBoxTexture(int box, std::optional<int> slot) {
-  const QImage* texture = slot && *slot >= 0 && *slot < 4 ? &Texture(*slot) : nullptr;
-  canvas_->SetBoxTexture(box, texture != nullptr && !texture->isNull() ? texture : nullptr);
-}
-
-// Textures are decoded when first shown: a reader uses one paper of the four.
-bool MainWindow::LoadTexture(int slot, const std::string& path) {
-  if (slot < 0 || slot >= 4) return false;
-  texture_paths_[slot] = QString::fromLocal8Bit(path.c_str());
-  textures_[slot] = QImage();
-  return QFileInfo(texture_paths_[slot]).isReadable();
-}
-
-const QImage& MainWindow::Texture(int slot) {
-  if (textures_[slot].isNull() && !texture_paths_[slot].isEmpty()) {
-    textures_[slot].load(texture_paths_[slot]);
-    texture_paths_[slot].clear();  // a picture that does not load is tried once
-  }
-  return textures_[slot];
-}
-
-void MainWindow::CopyBox(int source_box, int destination_box) {
-  canvas_->CopyBox(source_box, destination_box);
-}
-
-void MainWindow::StretchBox(int source_box, int destination_box, double width) {
-  canvas_->StretchBox(source_box, destination_box, width);
-}
-
-double MainWindow::FrameWidth(int frame) const { return canvas_->FrameWidth(frame); }
-void MainWindow::SetBoxWidth(int box, double twips) { canvas_->SetBoxWidth(box, twips); }
-void MainWindow::SetBoxLeft(int box, double twips) { canvas_->SetBoxLeft(box, twips); }
-void MainWindow::SetBoxVisible(int box, Visibility visibility) {
-  canvas_->SetBoxVisible(box, visibility == Visibility::kShown);
-}
-void MainWindow::RaiseBox(int box) { canvas_->RaiseBox(box); }
-void MainWindow::RefreshBox(int box) { canvas_->RefreshBox(box); }
-void MainWindow::SetLamp(Lamp lamp) { bar_->Shape1->SetColour(LampColour(lamp)); }
 void MainWindow::SetBarVisible(bool visible) { bar_->setVisible(visible); }
-double MainWindow::Frame1Width() const { return bar_->width() * kTwipsPerPixel; }
-double MainWindow::Frame1Top() const { return bar_->y() * kTwipsPerPixel; }
-
-void MainWindow::SetPageLabel(std::string_view text, uint32_t colour) {
-  bar_->lblPageNum->setText(FromWindows1252(text));
-  QPalette palette = bar_->lblPageNum->palette();
+// The page number takes the colour (red while the book is paginated); the
+// other labels keep theirs.
+void MainWindow::SetBarLabel(BarLabel label, std::string_view text, uint32_t colour) {
+  ClickLabel* control = label == BarLabel::kPageNumber ? bar_->lblPageNum
+                        : label == BarLabel::kFontSize ? bar_->lblFontSize
+                                                       : bar_->lblSearch;
+  control->setText(FromWindows1252(text));
+  if (label != BarLabel::kPageNumber) return;
+  QPalette palette = control->palette();
   palette.setColor(QPalette::WindowText, FromBgr(colour));
-  bar_->lblPageNum->setPalette(palette);
+  control->setPalette(palette);
 }
 
-void MainWindow::SetFontSizeLabel(std::string_view text) {
-  bar_->lblFontSize->setText(FromWindows1252(text));
-}
-
-void MainWindow::SetSearchLabel(std::string_view text) {
-  bar_->lblSearch->setText(FromWindows1252(text));
-}
-
-TwipsSize MainWindow::LanguageListSize() const {
-  return {lstLanguages_->width() * kTwipsPerPixel, lstLanguages_->height() * kTwipsPerPixel};
-}
-
-void MainWindow::PlaceLanguageList(const LanguageListPlacement& placement) {
-  const QRectF frame = canvas_->FrameRect(0);
-  lstLanguages_->move(frame.left() + Pixels(placement.list.left),
-                      frame.top() + Pixels(placement.list.top));
-  lblLanguages_->adjustSize();
-  lblLanguages_->move(frame.left() + Pixels(placement.caption_right) - lblLanguages_->width(),
-                      frame.top() + Pixels(placement.caption_top));
-}
-
-void MainWindow::SetLanguageListVisible(bool visible) {
-  lstLanguages_->setVisible(visible);
-  lblLanguages_->setVisible(visible);
-}
+void MainWindow::SetLanguageListVisible(bool visible) { canvas_->SetLanguageListVisible(visible); }
 
 // VIREO_TIMING=1: each milestone is written to standard error with the wall
 // clock in milliseconds since the epoch, so that a script that noted when it
@@ -416,11 +335,6 @@ void MainWindow::SetMenuTick(std::string_view item, bool ticked) {
   }
 }
 
-bool MainWindow::MenuTick(std::string_view item) const {
-  const QAction* action = menu_->Item(QString::fromUtf8(item.data(), item.size()));
-  return action != nullptr && action->isChecked();
-}
-
 void MainWindow::SetMenuEnabled(std::string_view item, bool enabled) {
   if (QAction* action = menu_->Item(QString::fromUtf8(item.data(), item.size()))) {
     action->setEnabled(enabled);
@@ -432,7 +346,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     event->accept();
     return;
   }
-  if (logic_.Form_QueryUnload(event->spontaneous())) {
+  if (logic_.lifecycle().Form_QueryUnload(event->spontaneous())) {
     event->ignore();
     return;
   }
@@ -442,7 +356,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 void MainWindow::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
   PlaceControlBar();
-  if (!logic_.busy()) logic_.Form_Resize();
+  if (!logic_.busy()) logic_.view_commands().Form_Resize();
 }
 
 namespace {
@@ -469,7 +383,7 @@ int VirtualKey(int qt_key) {
 void MainWindow::keyReleaseEvent(QKeyEvent* event) {
   if (event->isAutoRepeat()) return;
   const ShiftKey shift = event->modifiers() & Qt::ShiftModifier ? ShiftKey::kDown : ShiftKey::kUp;
-  logic_.Form_KeyUp(VirtualKey(event->key()), shift);
+  logic_.commands().Form_KeyUp(VirtualKey(event->key()), shift);
   event->accept();
 }
 
@@ -481,7 +395,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
   const QList<QUrl> urls = event->mimeData()->urls();
   if (urls.isEmpty() || !urls.first().isLocalFile()) return;
   event->acceptProposedAction();
-  logic_.Page_OLEDragDrop(urls.first().toLocalFile().toLocal8Bit().toStdString());
+  logic_.commands().Page_OLEDragDrop(urls.first().toLocalFile().toLocal8Bit().toStdString());
 }
 
 }  // namespace vireo

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QLabel>
-#include <QListWidget>
 #include <QMainWindow>
 #include <array>
 #include <memory>
@@ -15,7 +14,8 @@
 
 namespace vireo {
 
-// The reader's main window: draws what frmMain decides and forwards events.
+// The reader's main window: the canvas with the page pictures, the control
+// bar and the menu. It shows what frmMain decides and hands it the events.
 class MainWindow : public QMainWindow, public MainWindowView {
   Q_OBJECT
 
@@ -34,53 +34,30 @@ class MainWindow : public QMainWindow, public MainWindowView {
   int end_status() const { return end_status_; }
 
   // MainWindowView
+  void ShowProgress(std::string_view text) override;
   void ShowSplash() override;
-  void SetSplashStatus(std::string_view text) override;
   void UnloadSplash() override;
   void UnloadAllWindows() override;
   void EndProgram(int status) override;
   void ShowMainWindow() override;
   void SetCaption(std::string_view caption) override;
   void SetExitCaption(std::string_view caption) override;
-  uint32_t SystemWindowColour() override;
-  uint32_t SystemWindowTextColour() override;
-  uint32_t SystemButtonTextColour() override;
+  WindowColours SystemColours() const override;
   WindowSize ScreenSize() const override;
   WindowSize WindowOuterSize() const override;
   WindowSize WindowInnerSize() const override;
   void SetWindowWidth(double twips) override;
   void SetWindowHeight(double twips) override;
-  void MaximiseWindow() override;
-  bool IsMaximisedOrMinimised() const override;
-  void RestoreWindow() override;
-  void ApplyLayout(const BookViewLayout& layout) override;
-  Surface& Box(int box) override;
-  void SetBoxBackColour(int box, uint32_t bgr) override;
-  void SetBoxTexture(int box, std::optional<int> slot) override;
-  bool LoadTexture(int slot, const std::string& path) override;
-  void CopyBox(int source_box, int destination_box) override;
-  void StretchBox(int source_box, int destination_box, double width) override;
-  double FrameWidth(int frame) const override;
-  void SetBoxWidth(int box, double twips) override;
-  void SetBoxLeft(int box, double twips) override;
-  void SetBoxVisible(int box, Visibility visibility) override;
-  void RaiseBox(int box) override;
-  void RefreshBox(int box) override;
-  void SetLamp(Lamp lamp) override;
+  WindowState State() const override;
+  void SetState(WindowState state) override;
   void SetBarVisible(bool visible) override;
-  double Frame1Width() const override;
-  double Frame1Top() const override;
-  void SetPageLabel(std::string_view text, uint32_t colour) override;
-  void SetFontSizeLabel(std::string_view text) override;
-  void SetSearchLabel(std::string_view text) override;
-  PageChooser& PageDialog() override;
-  TwipsSize LanguageListSize() const override;
-  void PlaceLanguageList(const LanguageListPlacement& placement) override;
+  void SetBarLabel(BarLabel label, std::string_view text, uint32_t colour) override;
   void SetLanguageListVisible(bool visible) override;
-  void Milestone(std::string_view what) override;
   void SetMenuTick(std::string_view item, bool ticked) override;
-  bool MenuTick(std::string_view item) const override;
   void SetMenuEnabled(std::string_view item, bool enabled) override;
+  void ShowContextMenu() override;
+  PageChooser& PageDialog() override;
+  void Milestone(std::string_view what) override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -97,6 +74,8 @@ class MainWindow : public QMainWindow, public MainWindowView {
   void OnPageMouse(int page, QEvent::Type type, Qt::MouseButton button,
                    Qt::KeyboardModifiers modifiers, double x, double y);
   void PlaceControlBar();
+  // A message box of the planned features and the about box.
+  void Say(const std::string& text);
 
   // The page dialog as Goto Page asks it; in the non-interactive mode it is
   // cancelled at once.
@@ -110,17 +89,12 @@ class MainWindow : public QMainWindow, public MainWindowView {
   };
 
   QtMessagePump pump_;
+  UserInteraction& user_;
   PageDialogChooser page_dialog_{this};
-  int marked_line_ = 0;
   BookCanvasWidget* canvas_;
   ControlBarWidget* bar_;
   OptionsMenu* menu_;
-  QListWidget* lstLanguages_;
-  QLabel* lblLanguages_;
-  const QImage& Texture(int slot);
-
-  std::array<QImage, 4> textures_;
-  std::array<QString, 4> texture_paths_;
+  QLabel* progress_;  // the loading status once the splash is gone
   frmMain logic_;
   std::unique_ptr<SplashWindow> splash_;
   QString exit_caption_;

@@ -1,6 +1,6 @@
 #include "layout/font_metrics.h"
 
-#include "render/surface.h"
+#include "layout/text_measure.h"
 #include "support/error_trap.h"
 
 namespace vireo {
@@ -11,7 +11,7 @@ constexpr int kLineFeedIndex = 10 - 1;
 
 }  // namespace
 
-void clsFontMetrics::FillTable(Surface& surface, bool bold, bool italic) {
+void clsFontMetrics::FillTable(TextMeasure& surface, bool bold, bool italic) {
   surface.SetFontBold(bold);
   surface.SetFontItalic(italic);
   surface.SetFontUnderline(false);
@@ -32,7 +32,7 @@ void clsFontMetrics::UpdateWidest() {
   }
 }
 
-void clsFontMetrics::MakeArrays(Surface& surface) {
+void clsFontMetrics::MakeArrays(TextMeasure& surface) {
   Trap("sub makearrays", kModule, [&] {
     widest_ = 0;
     FillTable(surface, false, false);

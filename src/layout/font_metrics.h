@@ -5,7 +5,7 @@
 
 namespace vireo {
 
-class Surface;
+class TextMeasure;
 
 // Character widths of the book font in its four styles, measured once from a
 // surface and then read without touching it. Widths are in the surface's
@@ -19,7 +19,7 @@ class clsFontMetrics {
   // feed, is never measured and stays 0) and the widest plain character.
   // The surface is left bold and italic, underline off: callers set the
   // style they want before drawing.
-  void MakeArrays(Surface& surface);
+  void MakeArrays(TextMeasure& measure);
 
   // Width of the first character of text in the style. Code 0 (and an empty
   // text) falls outside the tables: the error is logged under
@@ -53,7 +53,7 @@ class clsFontMetrics {
   static constexpr int TableIndex(bool bold, bool italic) {
     return (bold ? 1 : 0) + (italic ? 2 : 0);
   }
-  void FillTable(Surface& surface, bool bold, bool italic);
+  void FillTable(TextMeasure& measure, bool bold, bool italic);
   void UpdateWidest();
 
   std::array<std::array<double, kTableSize>, 4> tables_{};  // plain, bold, italic, bold-italic

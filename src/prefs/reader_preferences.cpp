@@ -117,7 +117,6 @@ void ReadDefaultPath(ReaderPreferences& prefs, const std::string& executable_fol
 
 void StoreSettings(const ReaderPreferences& prefs, PreferencesHost& host,
                    const std::string& settings_path) {
-  StoreStep([&] { host.StoreBookmark(); });
   StoreStep([&] { sset("SinglePageMode", prefs.single_page_mode); });
   StoreStep([&] { sset("FontSize", prefs.font_size); });
   StoreStep([&] { sset("BarHidden", prefs.bar_hidden); });
@@ -138,7 +137,6 @@ void StoreSettings(const ReaderPreferences& prefs, PreferencesHost& host,
   StoreStep([&] { sset("UnderScores", host.UnderscoresTicked()); });
   StoreStep([&] { sset("ExtraParagraphLine", host.ExtraParagraphLineTicked()); });
   StoreStep([&] { savesettings(settings_path); });
-  StoreStep([&] { host.SaveBookmarks(); });
 }
 
 }  // namespace vireo

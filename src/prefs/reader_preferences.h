@@ -58,10 +58,6 @@ class PreferencesHost {
   virtual void SetResizing(bool resizing) = 0;
   virtual void SetWindowHeight(double twips) = 0;
   virtual void SetWindowWidth(double twips) = 0;
-  // The current book's reading position into the bookmarks, and the
-  // bookmarks file saved.
-  virtual void StoreBookmark() = 0;
-  virtual void SaveBookmarks() = 0;
 };
 
 // The system colours that stand in for absent paper and ink colours, taken
@@ -83,10 +79,10 @@ void ReadSettings(ReaderPreferences& prefs, PreferencesHost& host, const SystemC
 // falls back to executable_folder.
 void ReadDefaultPath(ReaderPreferences& prefs, const std::string& executable_folder);
 
-// Stores the bookmark, writes the shutdown preferences (page mode, font,
-// formatting, path, colours, the window's current size under the current
-// mode's keys, the two formatting ticks), saves the store to settings_path
-// and saves the bookmarks. "PageSweepWidth", "InstantPageTurn",
+// Writes the shutdown preferences (page mode, font, formatting, path,
+// colours, the window's current size under the current mode's keys, the two
+// formatting ticks) and saves the store to settings_path; the caller stores
+// the bookmark before and saves the bookmarks after. "PageSweepWidth", "InstantPageTurn",
 // "TextureNum" and the borders are left to the settings dialog.
 void StoreSettings(const ReaderPreferences& prefs, PreferencesHost& host,
                    const std::string& settings_path);

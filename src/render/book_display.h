@@ -44,54 +44,23 @@ constexpr uint32_t LampColour(Lamp lamp) {
   return 0x808080;
 }
 
-// What the page cache, the page turns and page navigation drive on the main
-// window: the page boxes as image buffers shown through movable boxes, the
-// status lamp and the cover. The Qt main window implements it with one image
-// buffer per box; tests fake it. Lengths are twips. Box numbers are 0..7,
-// frame numbers 0..1; anything else is a programming error.
-//
-// A box is a window onto its buffer: the buffer always has the full page
-// size, and a box narrowed for the sweep shows the buffer's left part,
-// starting at the box's own left edge. Drawing and copying always address
-// the whole buffer. PlotOnPage, ClearPage and DrawTitlePage are procedures of
-// the book view and trap their own errors; the other methods may throw
-// RuntimeError, which the calling procedure traps under its own name.
-//
-// Drawing onto a visible box must show at once (a synchronous repaint): the
-// sweep pauses between its steps without always yielding to the event loop.
+// The page drawing that the page cache, the page turns and page navigation
+// ask for: a page, the paper alone, the title page and the cover. The page
+// plotter implements it, drawing through the page buffers; tests fake it.
+// Box numbers are 0..7. These procedures trap their own errors.
 class BookDisplay {
  public:
   virtual ~BookDisplay() = default;
 
   // Draws page `page` into box's buffer for the given side (the book view's
-  // PlotOnPage). With no book loaded the title page is drawn instead; a page
-  // outside 1..page count draws nothing and the buffer keeps its contents.
+  // PlotOnPage) and shows it. With no book loaded the title page is drawn
+  // instead; a page outside 1..page count draws nothing and the buffer keeps
+  // its contents.
   virtual void PlotOnPage(PageSide side, int box, int page) = 0;
   // Repaints box's buffer with its paper only (colour and texture).
   virtual void ClearPage(int box) = 0;
-  // Copies the source buffer 1:1 onto the destination buffer at (0, 0)
-  // (a BitBlt, SRCCOPY); the box shows the result at once.
-  virtual void CopyPage(int source_box, int destination_box) = 0;
-  // Draws the whole source buffer squeezed horizontally into the rectangle
-  // (0, 0, destination_width_twips, full height) of the destination buffer
-  // (a StretchBlt, SRCCOPY). The rest of the destination buffer is left as
-  // it is. A width of 0 draws nothing.
-  virtual void StretchPage(int source_box, int destination_box, double destination_width_twips) = 0;
   // The welcome page of an empty book (hints and title).
   virtual void DrawTitlePage() = 0;
-
-  // Width of PageFrame(frame).
-  virtual double FrameWidth(int frame) const = 0;
-  // Width and left edge of a box inside its frame; a box wider than its
-  // frame or partly left of it is clipped by the frame.
-  virtual void SetBoxWidth(int box, double twips) = 0;
-  virtual void SetBoxLeft(int box, double twips) = 0;
-  virtual void SetBoxVisible(int box, Visibility visibility) = 0;
-  // Puts box on top of the other boxes of its frame.
-  virtual void RaiseBox(int box) = 0;
-
-  // Shows both lamp shapes (Shape1, Shape2) and gives Shape1 LampColour(lamp).
-  virtual void SetLamp(Lamp lamp) = 0;
 
   // The book's cover picture over the first page, and taking it away.
   // FIXME: hooks only until the cover picture is loaded and shown.

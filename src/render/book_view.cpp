@@ -1,5 +1,8 @@
 #include "render/book_view.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include "prefs/settings_get_set.h"
 #include "render/surface.h"
 #include "render/surface_text.h"
@@ -73,6 +76,16 @@ void DrawDoublePageBook(const BookViewInput& input, BookViewLayout& layout) {
     layout.page_visible = {true, true, false, false, false, false, false, false};
     layout.lines = DrawLines(input.window_width, input.window_height, input.bar, input.frame1_top);
   });
+}
+
+TwipsRect ControlBarRect(double window_width, double window_height) {
+  constexpr double kBarWidth = 9000;
+  constexpr double kBarFromBottom = 660;
+  constexpr double kTwipsPerPixel = 15;
+  const double wanted = std::min(kBarWidth, window_width - 400);
+  const double width = std::floor(wanted / kTwipsPerPixel + 0.5) * kTwipsPerPixel;
+  return {(window_width - width) / 2 - 45, window_height - kBarFromBottom, width,
+          kBarFromBottom - 60};
 }
 
 EdgeLines DrawLines(double window_width, double window_height, ControlBar bar, double frame1_top) {

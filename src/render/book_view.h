@@ -105,6 +105,11 @@ void DrawSinglePageBook(const BookViewInput& input, BookViewLayout& layout);
 // left 185 and W / 2 - 45. Errors as above ("DrawDoublePageBook").
 void DrawDoublePageBook(const BookViewInput& input, BookViewLayout& layout);
 
+// Where the control bar Frame1 stands while it is shown, in a window whose
+// inner size is W x H: 9000 wide (at most W - 400, in whole pixels), 45
+// left of the centre, its top 660 above the window's foot.
+TwipsRect ControlBarRect(double window_width, double window_height);
+
 // The end points of the seven edge lines, the same in both modes. frame1_top
 // is Frame1's top edge (used while the bar is shown).
 EdgeLines DrawLines(double window_width, double window_height, ControlBar bar, double frame1_top);

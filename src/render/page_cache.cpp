@@ -12,8 +12,9 @@ constexpr std::string_view kModule = "frmMain";
 
 }  // namespace
 
-PageCache::PageCache(BookDisplay& display, MessagePump& pump, const ReadingState& state)
-    : display_(display), pump_(pump), state_(state) {}
+PageCache::PageCache(BookDisplay& display, PageBuffers& buffers, MessagePump& pump,
+                     const ReadingState& state)
+    : display_(display), buffers_(buffers), pump_(pump), state_(state) {}
 
 void PageCache::ResetCache() {
   Trap("sub resetcache", kModule, [&] {
@@ -70,7 +71,7 @@ void PageCache::CacheHigherPages() {
 }
 
 void PageCache::CopyPage(int source_box, int destination_box) {
-  Trap("sub copypage", kModule, [&] { display_.CopyPage(source_box, destination_box); });
+  Trap("sub copypage", kModule, [&] { buffers_.CopyBox(source_box, destination_box); });
 }
 
 bool PageCache::Holds(CacheSlot slot, int page) {
@@ -91,7 +92,7 @@ void PageCache::KeepPagesOnShow(TurnDirection direction) {
 }
 
 void PageCache::RefillAfterTurn(TurnDirection direction, int32_t page_count) {
-  OrangeShape(display_, pump_);
+  OrangeShape(buffers_, pump_);
   const int c = state_.current_page;
   if (direction == TurnDirection::kForward) {
     ResetRightCache();
@@ -104,7 +105,7 @@ void PageCache::RefillAfterTurn(TurnDirection direction, int32_t page_count) {
 }
 
 void PageCache::RefillAfterRedraw() {
-  OrangeShape(display_, pump_);
+  OrangeShape(buffers_, pump_);
   pump_.Yield();
   CacheLowerPages();
   CacheHigherPages();

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "render/book_display.h"
+#include "render/page_buffers.h"
 #include "support/checked_int16.h"
 #include "support/user_interaction.h"
 
@@ -51,8 +52,9 @@ class PageCache {
  public:
   static constexpr int16_t kEmpty = -1;
 
-  // display, pump and state must outlive the cache.
-  PageCache(BookDisplay& display, MessagePump& pump, const ReadingState& state);
+  // display draws the pages into buffers; all four must outlive the cache.
+  PageCache(BookDisplay& display, PageBuffers& buffers, MessagePump& pump,
+            const ReadingState& state);
 
   // All four stamps, the left (lower) pair or the right (higher) pair to -1.
   void ResetCache();
@@ -109,6 +111,7 @@ class PageCache {
   void SetStamp(CacheSlot slot, Int16 page) { stamps_[static_cast<int>(slot)] = page.value(); }
 
   BookDisplay& display_;
+  PageBuffers& buffers_;
   MessagePump& pump_;
   const ReadingState& state_;
   int16_t stamps_[4] = {kEmpty, kEmpty, kEmpty, kEmpty};

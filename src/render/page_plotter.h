@@ -1,51 +1,70 @@
 #pragma once
 
+#include <string>
+
+#include "render/book_display.h"
 #include "render/book_view.h"
 
 namespace vireo {
 
-class PageBoxes;
+class PageBuffers;
 class clsPrintPage;
 class clsFontMetrics;
+struct BookPages;
 struct ReaderPreferences;
 
-// Draws into the page boxes: paper, page text, page numbers and the title
-// page. Holds references to the window's boxes, the live preferences, the
-// composer and the current font metrics; all must outlive it. Errors are
-// logged under module "frmMain" with each procedure's own name.
-class PagePlotter {
+// Draws into the page buffers: paper, page text, page numbers and the title
+// page, each box shown once drawn. Reads the open book through `book`, the
+// live preferences and the current font metrics, which it measures again
+// when the font has changed; all must outlive it. Errors are logged under
+// module "frmMain" with each procedure's own name.
+class PagePlotter : public BookDisplay {
  public:
-  PagePlotter(PageBoxes& boxes, const ReaderPreferences& prefs, clsPrintPage& composer,
-              const clsFontMetrics& metrics);
+  PagePlotter(PageBuffers& buffers, const BookPages& book, const ReaderPreferences& prefs,
+              clsPrintPage& composer, clsFontMetrics& metrics);
 
   // Recomputes the text area from Page(0) at the reader's font size.
   void SetPageBorders();
   const PageTextArea& text_area() const { return area_; }
 
-  // Draws page `page` into Page(box); side 0 is the left-hand page context,
-  // 1 the right-hand one. With no book loaded the title page is drawn
-  // instead; a page outside 1..page count draws nothing and the box keeps
-  // what it shows.
-  void PlotOnPage(int side, int box, int page);
-  // Repaints one box with its paper only.
-  void ClearPage(int box);
+  // The font tables are measured again before they are next used, so that
+  // setting the font name and then its size measures once.
+  void MarkFontTablesStale() { font_tables_stale_ = true; }
+  void EnsureFontTables();
+
+  // The search term whose matches are highlighted ("" for none).
+  void SetSearchTerm(std::string term) { search_term_ = std::move(term); }
+  const std::string& search_term() const { return search_term_; }
+
+  // BookDisplay. PlotOnPage draws page `page` for side 0 (left-hand) or 1
+  // (right-hand). DrawTitlePage: on Page(0) in single-page mode; on Page(1)
+  // with the hints on Page(0) in double-page mode; places the language list.
+  void PlotOnPage(PageSide side, int box, int page) override;
+  void ClearPage(int box) override;
+  void DrawTitlePage() override;
+  // FIXME: the book's cover picture is shown and hidden here once covers land.
+  void ShowCover() override {}
+  void HideCover() override {}
+  bool BookLoaded() const override;
+
   // Every box gets the paper colour as back colour, the ink colour as fore
   // colour, then its texture.
   void SetPageColours();
   // The box's background: texture "TextureNum", or none for -1.
   void SetTexture(int box);
-  // The welcome page: on Page(0) in single-page mode; on Page(1) with the
-  // hints on Page(0) in double-page mode. Places the language list.
-  void DrawTitlePage();
 
  private:
+  void ComposePage(PageSide side, int box, int page);
   void DrawPageNumber(int box, int page);
 
-  PageBoxes& boxes_;
+  PageBuffers& buffers_;
+  const BookPages& book_;
   const ReaderPreferences& prefs_;
   clsPrintPage& composer_;
-  const clsFontMetrics& metrics_;
+  clsFontMetrics& metrics_;
   PageTextArea area_;
+  std::string search_term_;
+  bool font_tables_stale_ = true;
 };
 
 }  // namespace vireo

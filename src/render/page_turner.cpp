@@ -17,14 +17,15 @@ constexpr std::string_view kWipeLeftToRight = "sub wipelefttoright";
 
 }  // namespace
 
-PageTurner::PageTurner(BookDisplay& display, MessagePump& pump, PageCache& cache,
-                       ReadingState& state, const TurnSettings& settings)
+PageTurner::PageTurner(BookDisplay& display, PageBuffers& buffers, MessagePump& pump,
+                       PageCache& cache, ReadingState& state, const TurnSettings& settings)
     : display_(display),
+      buffers_(buffers),
       pump_(pump),
       cache_(cache),
       state_(state),
       settings_(settings),
-      sweep_(display, pump, cache) {}
+      sweep_(display, buffers, pump, cache) {}
 
 template <typename TurnProper>
 void PageTurner::RunTurn(TurnDirection direction, int32_t page_count, TurnProper&& turn_proper) {
@@ -33,13 +34,13 @@ void PageTurner::RunTurn(TurnDirection direction, int32_t page_count, TurnProper
   // It is raised before the red lamp because the lamp yields as well.
   if (state_.busy) return;
   state_.busy = true;
-  RedShape(display_, pump_);
+  RedShape(buffers_, pump_);
   display_.HideCover();
   cache_.KeepPagesOnShow(direction);
   turn_proper();
   cache_.RefillAfterTurn(direction, page_count);
   state_.busy = false;
-  NoShape(display_, pump_);
+  NoShape(buffers_, pump_);
   if (settings_.debug_switch) cache_.DisplayCacheContents();
 }
 
@@ -118,8 +119,8 @@ void PageTurner::TurnForwardAnimated(Int16 c) {
   // Page(2) keeps the turned page's image, the source of the squeezed strips.
   display_.ClearPage(kRightWorkBox);
   ShowPage(CacheSlot::kRightHigher, Int16(c + 2), PageSide::kRight, kRightWorkBox);
-  display_.RaiseBox(kRightPageBox);
-  display_.SetBoxVisible(kRightWorkBox, Visibility::kShown);
+  buffers_.RaiseBox(kRightPageBox);
+  buffers_.SetBoxVisible(kRightWorkBox, Visibility::kShown);
   pump_.Yield();
   cache_.CopyPage(kRightPageBox, kLeftWorkBox);
   sweep_.TurnRightPageOver(settings_.page_sweep_width);
@@ -161,8 +162,8 @@ void PageTurner::TurnBackAnimated(Int16 c) {
   // Page(3) keeps the turned page's image, the source of the squeezed strips.
   display_.ClearPage(kLeftWorkBox);
   ShowPage(CacheSlot::kLeftLower, Int16(c - 3), PageSide::kLeft, kLeftWorkBox);
-  display_.RaiseBox(kLeftPageBox);
-  display_.SetBoxVisible(kLeftWorkBox, Visibility::kShown);
+  buffers_.RaiseBox(kLeftPageBox);
+  buffers_.SetBoxVisible(kLeftWorkBox, Visibility::kShown);
   cache_.CopyPage(kLeftPageBox, kRightWorkBox);
   sweep_.TurnLeftPageOver(settings_.page_sweep_width);
 }

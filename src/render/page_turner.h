@@ -33,8 +33,8 @@ struct TurnSettings {
 class PageTurner {
  public:
   // All arguments must outlive the turner; settings are read at every turn.
-  PageTurner(BookDisplay& display, MessagePump& pump, PageCache& cache, ReadingState& state,
-             const TurnSettings& settings);
+  PageTurner(BookDisplay& display, PageBuffers& buffers, MessagePump& pump, PageCache& cache,
+             ReadingState& state, const TurnSettings& settings);
 
   // Single mode, one page forward: c + 1 from Page(6) or rendered into
   // Page(0). On the last page c stays n and nothing is drawn.
@@ -66,6 +66,7 @@ class PageTurner {
   void TurnBackAnimated(Int16 c);
 
   BookDisplay& display_;
+  PageBuffers& buffers_;
   MessagePump& pump_;
   PageCache& cache_;
   ReadingState& state_;

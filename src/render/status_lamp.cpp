@@ -7,30 +7,30 @@
 namespace vireo {
 namespace {
 
-void SetLampAndYield(std::string_view procedure, Lamp lamp, BookDisplay& display,
+void SetLampAndYield(std::string_view procedure, Lamp lamp, PageBuffers& buffers,
                      MessagePump& pump) {
   Trap(procedure, "frmMain", [&] {
-    display.SetLamp(lamp);
+    buffers.SetLamp(lamp);
     pump.Yield();
   });
 }
 
 }  // namespace
 
-void RedShape(BookDisplay& display, MessagePump& pump) {
-  SetLampAndYield("sub redshape", Lamp::kRed, display, pump);
+void RedShape(PageBuffers& buffers, MessagePump& pump) {
+  SetLampAndYield("sub redshape", Lamp::kRed, buffers, pump);
 }
 
-void GreenShape(BookDisplay& display, MessagePump& pump) {
-  SetLampAndYield("sub greenshape", Lamp::kGreen, display, pump);
+void GreenShape(PageBuffers& buffers, MessagePump& pump) {
+  SetLampAndYield("sub greenshape", Lamp::kGreen, buffers, pump);
 }
 
-void OrangeShape(BookDisplay& display, MessagePump& pump) {
-  SetLampAndYield("sub orangeshape", Lamp::kOrange, display, pump);
+void OrangeShape(PageBuffers& buffers, MessagePump& pump) {
+  SetLampAndYield("sub orangeshape", Lamp::kOrange, buffers, pump);
 }
 
-void NoShape(BookDisplay& display, MessagePump& pump) {
-  SetLampAndYield("sub noshape", Lamp::kGrey, display, pump);
+void NoShape(PageBuffers& buffers, MessagePump& pump) {
+  SetLampAndYield("sub noshape", Lamp::kGrey, buffers, pump);
 }
 
 }  // namespace vireo

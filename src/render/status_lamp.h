@@ -1,6 +1,6 @@
 #pragma once
 
-#include "render/book_display.h"
+#include "render/page_buffers.h"
 #include "support/user_interaction.h"
 
 namespace vireo {
@@ -9,9 +9,9 @@ namespace vireo {
 // cache fills, green when pagination has finished, grey when idle. Each
 // operation sets the lamp and then yields once so that the colour shows at
 // once. Errors are logged ("sub redshape" ... of "frmMain") and swallowed.
-void RedShape(BookDisplay& display, MessagePump& pump);
-void GreenShape(BookDisplay& display, MessagePump& pump);
-void OrangeShape(BookDisplay& display, MessagePump& pump);
-void NoShape(BookDisplay& display, MessagePump& pump);
+void RedShape(PageBuffers& buffers, MessagePump& pump);
+void GreenShape(PageBuffers& buffers, MessagePump& pump);
+void OrangeShape(PageBuffers& buffers, MessagePump& pump);
+void NoShape(PageBuffers& buffers, MessagePump& pump);
 
 }  // namespace vireo

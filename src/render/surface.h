@@ -3,29 +3,26 @@
 #include <cstdint>
 #include <string_view>
 
+#include "layout/text_measure.h"
+
 namespace vireo {
 
 // A drawing surface in twips (15 twips = 1 logical pixel): a page buffer on
 // screen, the printer, or a test's fixed-width fake. Text is Windows-1252
 // bytes. The current position, ink colour and style switches are state of
 // the surface, as on a picture box.
-class Surface {
+class Surface : public TextMeasure {
  public:
-  virtual ~Surface() = default;
-
   virtual void SetFontName(std::string_view name) = 0;
   virtual void SetFontSize(double points) = 0;
   virtual double FontSize() const = 0;
 
-  virtual void SetFontBold(bool bold) = 0;
-  virtual void SetFontItalic(bool italic) = 0;
-  virtual void SetFontUnderline(bool underline) = 0;
   virtual bool FontBold() const = 0;
   virtual bool FontItalic() const = 0;
   virtual bool FontUnderline() const = 0;
 
-  // Width and height of text in the current font and style, in twips.
-  virtual double TextWidth(std::string_view text) const = 0;
+  // Height of text in the current font and style, in twips (its width is
+  // measured through TextMeasure).
   virtual double TextHeight(std::string_view text) const = 0;
 
   // Size of the drawable area in twips.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "render/book_display.h"
+#include "render/page_buffers.h"
 #include "render/page_cache.h"
 #include "support/user_interaction.h"
 
@@ -28,8 +29,8 @@ namespace vireo {
 // A strip width of 0 or less draws no steps (the sweep is skipped).
 class PageSweep {
  public:
-  // All three must outlive the sweep; the cache provides CopyPage.
-  PageSweep(BookDisplay& display, MessagePump& pump, PageCache& cache);
+  // All must outlive the sweep; the cache provides CopyPage.
+  PageSweep(BookDisplay& display, PageBuffers& buffers, MessagePump& pump, PageCache& cache);
 
   // Forward, first half: for x from the right frame's width W down to 0 in
   // steps of strip (no partial last strip), while x > W / 2 Page(1) loses
@@ -62,6 +63,7 @@ class PageSweep {
   void HideWorkBoxes();
 
   BookDisplay& display_;
+  PageBuffers& buffers_;
   MessagePump& pump_;
   PageCache& cache_;
 };

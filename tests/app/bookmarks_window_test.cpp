@@ -30,7 +30,7 @@ TEST(BookmarksWindow, CopiesShareAPositionAndErasingKeepsOnlyTheBookOnShowAtExit
   EXPECT_EQ(reader.logic().current_page(), 2) << "a book shown for the first time";
   Turn(reader, 2);
   ASSERT_TRUE(test::DropFile(reader, second));
-  EXPECT_EQ(reader.logic().book_path(), second);
+  EXPECT_EQ(reader.logic().book().path(), second);
   EXPECT_EQ(reader.logic().current_page(), 6) << "the copy opens where the first was left";
   const std::string book = reader.folder().File("Book");
   ASSERT_GT(RetrieveBookmark(book), 0) << "stored when the story was dropped";

@@ -221,37 +221,38 @@ TEST(Resizing, AResizeDuringAPaginationIsUndone) {
 TEST(FormattingMenu, TheTextOptionsReloadTheBook) {
   test::ReaderWindow reader("An _underlined_ word.\r\nA second line.\r\n\r\nA new paragraph.");
   reader.Start();
-  const std::string formatted = reader.logic().book_text();
+  const std::string formatted = reader.logic().book_pages().text;
   EXPECT_TRUE(test::Repaginates(reader, [&] { Trigger(reader, "mnuUnderscores"); }));
-  EXPECT_TRUE(reader.window().MenuTick("mnuUnderscores"));
-  EXPECT_NE(reader.logic().book_text().find("\x82underlined\x83"), std::string::npos);
+  EXPECT_TRUE(reader.window().menu().Item("mnuUnderscores")->isChecked());
+  EXPECT_NE(reader.logic().book_pages().text.find("\x82underlined\x83"), std::string::npos);
   Trigger(reader, "mnuUnderscores");
 
   Trigger(reader, "mnuExtraLine");
-  EXPECT_NE(reader.logic().book_text().find("\n  \n"), std::string::npos);
+  EXPECT_NE(reader.logic().book_pages().text.find("\n  \n"), std::string::npos);
   Trigger(reader, "mnuExtraLine");
 
   Trigger(reader, "mnuFormatting");
-  EXPECT_FALSE(reader.window().MenuTick("mnuFormatting"));
+  EXPECT_FALSE(reader.window().menu().Item("mnuFormatting")->isChecked());
   EXPECT_EQ(sget("Reformat", true).ToBoolean(), false) << "written at once";
-  EXPECT_NE(reader.logic().book_text(), formatted) << "the line break inside the paragraph stays";
+  EXPECT_NE(reader.logic().book_pages().text, formatted)
+      << "the line break inside the paragraph stays";
   Trigger(reader, "mnuFormatting");
-  EXPECT_EQ(reader.logic().book_text(), formatted);
+  EXPECT_EQ(reader.logic().book_pages().text, formatted);
 }
 
 TEST(DeleteCommand, AsksWithThePathAndOnYesLeavesTheTitlePage) {
   test::ReaderWindow reader(test::SampleProse(20), kInstant);
   reader.Start();
-  const std::string path = reader.logic().book_path();
+  const std::string path = reader.logic().book().path();
   Trigger(reader, "mnuErasefile");
   EXPECT_EQ(LastMessage(reader), "Do you really want to erase " + path + " from your hard disk?");
   EXPECT_TRUE(test::FileExists(path)) << "No keeps the file";
-  EXPECT_TRUE(reader.logic().book_loaded());
+  EXPECT_TRUE(reader.logic().book_pages().loaded);
 
   reader.user().yes = true;
   Trigger(reader, "mnuErasefile");
   EXPECT_FALSE(std::filesystem::exists(path));
-  EXPECT_FALSE(reader.logic().book_loaded());
+  EXPECT_FALSE(reader.logic().book_pages().loaded);
   EXPECT_EQ(reader.window().windowTitle(), "Vireo");
 }
 
@@ -267,7 +268,7 @@ TEST(DroppedFiles, TheNameDecidesWhetherTheFileIsTried) {
   test::WriteFile(reader.folder().File("picture.png"), "not a book");
   ASSERT_TRUE(test::DropFile(reader, reader.folder().File("picture.png")));
   EXPECT_EQ(LastMessage(reader), "Cannot load that type of file");
-  EXPECT_TRUE(reader.logic().book_loaded()) << "the book on show stays";
+  EXPECT_TRUE(reader.logic().book_pages().loaded) << "the book on show stays";
   EXPECT_EQ(reader.window().windowTitle(), "Book");
 }
 

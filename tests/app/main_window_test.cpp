@@ -33,7 +33,7 @@ TEST(BookOnScreen, InkStaysInTheTextAreaAndThePageNumberIsCentredAtTheFoot) {
   EXPECT_EQ(reader.window().bar().lblPageNum->text(),
             QString::number(reader.logic().pages().count) + " pages");
   const QImage page = test::BoxPicture(reader, kLeftPageBox);
-  const PageTextArea& area = reader.logic().text_area();
+  const PageTextArea& area = reader.logic().spread().text_area();
   const int band_top = Px(page.height() * 15 - (area.line_height + 45)) - 2;
   ASSERT_GT(band_top, 0);
 

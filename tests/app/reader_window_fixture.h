@@ -89,7 +89,7 @@ class ReaderWindow {
 
   // Runs the start-up sequence and shows the window.
   void Start() {
-    window_->logic().Form_Load();
+    window_->logic().lifecycle().Form_Load();
     window_->show();
     QApplication::processEvents();
   }

@@ -64,7 +64,7 @@ TEST(SearchWindow, ANewTermRedrawsInPlaceAndABlankOneSearchesNothing) {
 TEST(SearchWindow, FindNextAndPreviousTurnToThePageThatHoldsTheTerm) {
   test::ReaderWindow reader(test::SampleProse(60), kRedMatches);
   reader.Start();
-  const std::string& text = reader.logic().book_text();
+  const std::string& text = reader.logic().book_pages().text;
   const auto position = static_cast<int32_t>(text.find("Sentence 4 of paragraph 30 goes") + 1);
   const PageIndex& pages = reader.logic().pages();
   int page = 1;  // the page holding the term, which is once in the book

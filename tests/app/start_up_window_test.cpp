@@ -12,8 +12,9 @@ namespace {
 
 TEST(StartUp, ExitWaitsForStartUpThenStoresEveryPreferenceSorted) {
   test::ReaderWindow reader("A short book.");
-  reader.logic().Quit();
-  EXPECT_FALSE(reader.logic().Form_QueryUnload(true)) << "a close is refused only while paginating";
+  reader.logic().lifecycle().Quit();
+  EXPECT_FALSE(reader.logic().lifecycle().Form_QueryUnload(true))
+      << "a close is refused only while paginating";
   EXPECT_EQ(reader.window().end_status(), -1) << "the window is busy until start-up ends";
 
   reader.Start();
@@ -21,7 +22,7 @@ TEST(StartUp, ExitWaitsForStartUpThenStoresEveryPreferenceSorted) {
             "Exit Vireo " + AppVersion());
   EXPECT_TRUE(test::FileExists(reader.folder().File("xdg/mime/packages/vireo-books.xml")));
   const WindowSize size = reader.window().WindowOuterSize();
-  reader.logic().Quit();
+  reader.logic().lifecycle().Quit();
   EXPECT_EQ(reader.window().end_status(), 0);
   EXPECT_FALSE(reader.window().isVisible());
   // A first run writes every preference of the shutdown list.
@@ -36,9 +37,9 @@ TEST(StartUp, ExitWaitsForStartUpThenStoresEveryPreferenceSorted) {
 }
 
 TEST(ProgramFolderString, ADrivesRootBecomesC) {
-  EXPECT_EQ(frmMain::ProgramFolderString("D:\\"), "C:");
-  EXPECT_EQ(frmMain::ProgramFolderString("/"), "C:");
-  EXPECT_EQ(frmMain::ProgramFolderString("/opt/vireo"), "/opt/vireo");
+  EXPECT_EQ(ProgramLifecycle::ProgramFolderString("D:\\"), "C:");
+  EXPECT_EQ(ProgramLifecycle::ProgramFolderString("/"), "C:");
+  EXPECT_EQ(ProgramLifecycle::ProgramFolderString("/opt/vireo"), "/opt/vireo");
 }
 
 }  // namespace

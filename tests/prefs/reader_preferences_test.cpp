@@ -38,8 +38,6 @@ class RecordingHost : public PreferencesHost {
   void SetResizing(bool on) override { calls.push_back("resizing " + OnOff(on)); }
   void SetWindowHeight(double twips) override { calls.push_back("height " + Twips(twips)); }
   void SetWindowWidth(double twips) override { calls.push_back("width " + Twips(twips)); }
-  void StoreBookmark() override { calls.push_back("store bookmark"); }
-  void SaveBookmarks() override { calls.push_back("save bookmarks"); }
 
   std::vector<std::string> calls;
   WindowSize window{9500, 6570};
@@ -123,8 +121,6 @@ TEST_F(ReaderPreferencesTest, StoredPreferencesAreReadBackAtTheNextStart) {
   host.window = {5000, 7000};
   host.underscores_ticked = true;
   StoreSettings(prefs, host, path);
-  EXPECT_EQ(host.calls.front(), "store bookmark");
-  EXPECT_EQ(host.calls.back(), "save bookmarks");
 
   // Single-page mode keeps its own size: the two-page size stays as it was.
   cSHAREDSettings file;

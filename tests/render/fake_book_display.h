@@ -6,13 +6,16 @@
 #include <vector>
 
 #include "fake_pump.h"
+#include "fake_surface.h"
 #include "render/book_display.h"
+#include "render/page_buffers.h"
 
 namespace vireo::test {
 
-// A book display without a screen: each box holds the number of the page drawn into it, and keeps
-// a width, a left edge, a visibility and a place in its frame's stack (what the reader sees).
-class FakeBookDisplay : public BookDisplay {
+// Page drawing and page buffers without a screen: each box holds the number of the page drawn
+// into it, and keeps a width, a left edge, a visibility and a place in its frame's stack (what
+// the reader sees).
+class FakeBookDisplay : public BookDisplay, public PageBuffers {
  public:
   static constexpr int kBlank = 0;
   static constexpr int kTitlePage = -100;
@@ -41,14 +44,14 @@ class FakeBookDisplay : public BookDisplay {
     Record("clear", box);
     content[box] = kBlank;
   }
-  void CopyPage(int source_box, int destination_box) override {
+  void CopyBox(int source_box, int destination_box) override {
     Record("copy", source_box, destination_box);
     content[destination_box] = content[source_box];
     if (visible[destination_box] && destination_box < 2) {
       views.push_back(View(destination_box, false));
     }
   }
-  void StretchPage(int source_box, int destination_box, double width) override {
+  void StretchBox(int source_box, int destination_box, double width) override {
     Record("stretch", source_box, destination_box, static_cast<int>(width));
     stretch_widths.push_back(width);
     if (width != widths[destination_box]) mismatched_stretches++;
@@ -60,7 +63,16 @@ class FakeBookDisplay : public BookDisplay {
     content[kRightPageBox] = kTitlePage;
   }
 
+  void ApplyLayout(const BookViewLayout&) override {}
   double FrameWidth(int) const override { return kFrameWidth; }
+  Surface& Box(int) override { return surface; }
+  void SetBoxBackColour(int, uint32_t) override {}
+  void SetBoxTexture(int, std::optional<int>) override {}
+  bool LoadTexture(int, const std::string&) override { return true; }
+  void RefreshBox(int) override {}
+  void SetLineMarker(int, double, double) override {}
+  TwipsSize LanguageListSize() const override { return {}; }
+  void PlaceLanguageList(const LanguageListPlacement&) override {}
   void SetBoxWidth(int box, double twips) override {
     if (twips < 0) ++negative_widths;
     widths[box] = twips;
@@ -107,6 +119,7 @@ class FakeBookDisplay : public BookDisplay {
 
   int page_count;
   bool book_loaded = true;
+  FakeSurface surface;
   bool cover_shown = true;
 
   std::array<int, 8> content{};

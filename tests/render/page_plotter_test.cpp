@@ -10,7 +10,8 @@
 #include "layout/font_metrics.h"
 #include "prefs/reader_preferences.h"
 #include "prefs/settings_get_set.h"
-#include "render/page_boxes.h"
+#include "render/book_pages.h"
+#include "render/page_buffers.h"
 #include "render/print_page.h"
 
 namespace vireo {
@@ -19,34 +20,48 @@ namespace {
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using ::testing::Not;
 
-// Eight fixed-width page boxes of 6000 x 9000 twips, a book of 9 pages, the calls in order.
-class FakePageBoxes : public PageBoxes {
+// Eight fixed-width page buffers of 6000 x 9000 twips, the texture calls in order.
+class FakeBuffers : public PageBuffers {
  public:
+  void ApplyLayout(const BookViewLayout&) override {}
+  double FrameWidth(int) const override { return 6000; }
   Surface& Box(int box) override { return boxes.at(static_cast<size_t>(box)); }
   void SetBoxBackColour(int, uint32_t) override {}
   void SetBoxTexture(int box, std::optional<int> slot) override {
     boxes.at(static_cast<size_t>(box)).Clear();
     calls.push_back("texture " + std::to_string(box) + " " + std::to_string(slot.value_or(-1)));
   }
-  bool BookLoaded() const override { return book_loaded; }
-  int PageCount() const override { return 9; }
-  PageContent Page(int page) const override {
-    return {"Text of page " + std::to_string(page), false, false, false};
-  }
-  std::string SearchTerm() const override { return {}; }
-  void ShowCover(int box, int page) override {
-    calls.push_back("cover " + std::to_string(box) + " " + std::to_string(page));
-  }
-  void UpdateSearchLabel() override { calls.push_back("search label"); }
+  bool LoadTexture(int, const std::string&) override { return true; }
+  void CopyBox(int, int) override {}
+  void StretchBox(int, int, double) override {}
+  void RefreshBox(int box) override { calls.push_back("refresh " + std::to_string(box)); }
+  void SetBoxWidth(int, double) override {}
+  void SetBoxLeft(int, double) override {}
+  void SetBoxVisible(int, Visibility) override {}
+  void RaiseBox(int) override {}
+  void SetLamp(Lamp) override {}
+  void SetLineMarker(int, double, double) override {}
   TwipsSize LanguageListSize() const override { return {1500, 1200}; }
   void PlaceLanguageList(const LanguageListPlacement& where) override { placement = where; }
 
   std::array<test::FakeSurface, kBoxCount> boxes;
   std::vector<std::string> calls;
-  bool book_loaded = true;
   std::optional<LanguageListPlacement> placement;
 };
+
+// A book of 9 pages, "Text of page N" each.
+BookPages NinePages() {
+  BookPages book;
+  for (int page = 1; page <= 9; ++page) {
+    book.index.SetPageStart(page, static_cast<int32_t>(book.text.size()) + 1);
+    book.text += "Text of page " + std::to_string(page);
+  }
+  book.index.count = 9;
+  book.loaded = true;
+  return book;
+}
 
 class PagePlotterTest : public ::testing::Test {
  protected:
@@ -59,17 +74,18 @@ class PagePlotterTest : public ::testing::Test {
   }
   ~PagePlotterTest() override { ResetGlobalSettings(); }
 
-  FakePageBoxes boxes;
+  FakeBuffers boxes;
+  BookPages book = NinePages();
   ReaderPreferences prefs;
   test::RecordingPump pump;
   clsPrintPage composer{pump};
   clsFontMetrics metrics;
-  PagePlotter plotter{boxes, prefs, composer, metrics};
+  PagePlotter plotter{boxes, book, prefs, composer, metrics};
 };
 
 TEST_F(PagePlotterTest, APageIsComposedOnItsPaperWithItsNumberCentredAtTheFoot) {
-  plotter.PlotOnPage(1, 5, 7);
-  EXPECT_THAT(boxes.calls, ElementsAre("texture 5 2", "cover 5 7", "search label"));
+  plotter.PlotOnPage(PageSide::kRight, 5, 7);
+  EXPECT_THAT(boxes.calls, ElementsAre("texture 5 2", "refresh 5"));
 
   const auto& box = boxes.boxes[5];
   ASSERT_THAT(box.RunTexts(), ElementsAre("Text of page 7", "7"));
@@ -89,14 +105,14 @@ TEST_F(PagePlotterTest, APageIsComposedOnItsPaperWithItsNumberCentredAtTheFoot) 
 
 TEST_F(PagePlotterTest, PagesOutsideTheBookDrawNothingAndWithoutABookTheTitlePageIsDrawn) {
   boxes.boxes[4].DrawText("old page");
-  for (int page : {0, 10, -2}) plotter.PlotOnPage(0, 4, page);
-  EXPECT_THAT(boxes.calls, IsEmpty());
+  for (int page : {0, 10, -2}) plotter.PlotOnPage(PageSide::kLeft, 4, page);
+  EXPECT_THAT(boxes.calls, Not(Contains(testing::StartsWith("texture"))));
   EXPECT_THAT(boxes.boxes[4].RunTexts(), ElementsAre("old page"));
   EXPECT_THAT(boxes.boxes[0].RunTexts(), IsEmpty());
   EXPECT_FALSE(boxes.placement.has_value());
 
-  boxes.book_loaded = false;
-  plotter.PlotOnPage(1, 6, 3);
+  book.loaded = false;
+  plotter.PlotOnPage(PageSide::kRight, 6, 3);
   EXPECT_THAT(boxes.boxes[6].RunTexts(), IsEmpty());
   EXPECT_THAT(boxes.boxes[1].RunTexts(), Contains("Welcome to Vireo!"));
   EXPECT_THAT(boxes.boxes[0].RunTexts(), Contains("Hints:"));

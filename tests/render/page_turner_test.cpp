@@ -48,8 +48,8 @@ class PageTurnerTest : public testing::Test {
   RecordingPump pump;
   ReadingState state;
   TurnSettings settings;
-  PageCache cache{display, pump, state};
-  PageTurner turner{display, pump, cache, state, settings};
+  PageCache cache{display, display, pump, state};
+  PageTurner turner{display, display, pump, cache, state, settings};
 };
 
 using PageCacheTest = PageTurnerTest;

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+
+#include "app/book_session.h"
+#include "app/reader_context.h"
+
+namespace vireo {
+
+// Opening a book file: read it, find the markers, unpack and reformat it
+// (progress shown on the window's progress display), take the reading
+// position from the bookmarks and paginate it there. The design's LoadFile;
+// its errors are logged under "sub loadfile" of "frmMain".
+class BookLoader {
+ public:
+  BookLoader(ReaderContext& context, BookSession& session);
+
+  // Loads the book appended to the file at path (the program's own
+  // executable at start-up, a dropped file, the book again after a
+  // formatting change). Without the header marker the person is told there
+  // is no ebook in the file and the open book stays as it was.
+  void OpenBook(const std::string& path);
+
+ private:
+  void ShowProgress(std::string_view caption, int value, int maximum);
+
+  ReaderContext& context_;
+  BookSession& session_;
+};
+
+}  // namespace vireo

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <string>
+
+#include "app/book_loader.h"
+#include "app/book_session.h"
+#include "app/book_spread.h"
+#include "app/key_map.h"
+#include "app/program_lifecycle.h"
+#include "app/reader_context.h"
+#include "app/search_commands.h"
+#include "app/view_commands.h"
+#include "app/window_preferences.h"
+#include "nav/page_nav_mouse.h"
+
+namespace vireo {
+
+// The reader's commands from keys, menus, the mouse on the pages and
+// dropped files, carried out on the other rooms. Errors are logged under
+// the design's procedure names of module "frmMain".
+class ReaderCommands {
+ public:
+  ReaderCommands(ReaderContext& context, BookSpread& spread, BookSession& session,
+                 BookLoader& loader, SearchCommands& search, ViewCommands& view_commands,
+                 WindowPreferences& preferences, ProgramLifecycle& lifecycle);
+
+  // A released key (the key map); always consumed. Dropped while the book
+  // is paginated.
+  bool Form_KeyUp(int virtual_key, ShiftKey shift);
+  // A mouse event on a page: turns, the context menu, the line marker.
+  void Page_Mouse(const PageMouseEvent& event);
+  // A file dropped on a page: loaded when its name shows a book type.
+  void Page_OLEDragDrop(const std::string& path);
+
+  void GotoPage();
+  void mnuFormatting_Click();
+  void mnuUnderscores_Click();
+  void mnuExtraLine_Click();
+  void mnuJustified_Click();
+  void mnuIndentParagraphs_Click();
+  // Asks, then erases the open book's file and shows the title page.
+  void mnuErasefile_Click();
+  void mnuEraseBookmarks_Click();
+  void mnuHelp_Click();
+
+  // The line under the marker (0: none).
+  int marked_line() const { return marked_line_; }
+
+ private:
+  // The formatting options take effect when the book text is loaded again.
+  void ReloadBook();
+  void SetMarker(int frame, int line, double top, double bottom);
+
+  ReaderContext& context_;
+  BookSpread& spread_;
+  BookSession& session_;
+  BookLoader& loader_;
+  SearchCommands& search_;
+  ViewCommands& view_commands_;
+  WindowPreferences& preferences_;
+  ProgramLifecycle& lifecycle_;
+  int marked_line_ = 0;
+};
+
+}  // namespace vireo

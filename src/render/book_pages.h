@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+
+#include "layout/page_index.h"
+
+namespace vireo {
+
+// The text of one page and the styles open at its top.
+struct PageContent {
+  std::string text;  // the book text from the page's start to the next page's start
+  bool bold = false;
+  bool italic = false;
+  bool underline = false;
+};
+
+// The open book as the page drawing reads it: the book text and its page
+// index. The book session owns and changes it; everything that draws pages
+// holds it read-only.
+struct BookPages {
+  std::string text;  // Windows-1252 bytes, positions counted from 1
+  PageIndex index;
+  bool loaded = false;  // false: no book, the title page is shown
+
+  // The page count n while a book is loaded, else 0.
+  int PageCount() const { return loaded ? index.count : 0; }
+  // Page `page`, 1..PageCount(): its text and the styles open at its top.
+  PageContent Page(int page) const;
+};
+
+}  // namespace vireo

@@ -1,0 +1,178 @@
+#pragma once
+
+#include <array>
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/frm_main.h"
+#include "book/book_maker.h"
+#include "fake_pump.h"
+#include "fake_surface.h"
+#include "prefs/settings_get_set.h"
+#include "support/logging.h"
+#include "test_support.h"
+
+namespace vireo::test {
+
+// Page buffers without a screen: fixed-width fake surfaces of the laid-out page size.
+class FakePageBuffers : public PageBuffers {
+ public:
+  void ApplyLayout(const BookViewLayout& applied) override {
+    layout = applied;
+    for (FakeSurface& box : boxes) {
+      box.width = applied.page_width;
+      box.height = applied.page_height;
+    }
+  }
+  double FrameWidth(int frame) const override { return layout.page_frames.at(frame).width; }
+  Surface& Box(int box) override { return boxes.at(static_cast<size_t>(box)); }
+  void SetBoxBackColour(int, uint32_t) override {}
+  void SetBoxTexture(int box, std::optional<int>) override { Box(box).Clear(); }
+  bool LoadTexture(int, const std::string&) override { return true; }
+  void CopyBox(int source, int destination) override {
+    boxes.at(destination).runs = boxes.at(source).runs;
+  }
+  void StretchBox(int source, int destination, double) override { CopyBox(source, destination); }
+  void RefreshBox(int) override {}
+  void SetBoxWidth(int, double) override {}
+  void SetBoxLeft(int, double) override {}
+  void SetBoxVisible(int, Visibility) override {}
+  void RaiseBox(int) override {}
+  void SetLamp(Lamp lamp) override { lamps.push_back(lamp); }
+  void SetLineMarker(int frame, double top, double) override {
+    marker_frame = frame;
+    marker_top = top;
+  }
+  TwipsSize LanguageListSize() const override { return {1650, 540}; }
+  void PlaceLanguageList(const LanguageListPlacement&) override {}
+
+  // Everything drawn on a box, its runs joined by blanks.
+  std::string Text(int box) const {
+    std::string text;
+    for (const auto& run : boxes.at(static_cast<size_t>(box)).runs) text += run.text + " ";
+    return text;
+  }
+
+  std::array<FakeSurface, kBoxCount> boxes;
+  BookViewLayout layout;
+  std::vector<Lamp> lamps;
+  int marker_frame = -1;
+  double marker_top = 0;
+};
+
+// A window without a window system: sizes, captions, labels and ticks kept as set.
+class FakeWindowView : public MainWindowView, public PageChooser {
+ public:
+  void ShowProgress(std::string_view text) override {
+    (splash ? splash_status : progress).emplace_back(text);
+  }
+  void ShowSplash() override { splash = true; }
+  void UnloadSplash() override { splash = false; }
+  void UnloadAllWindows() override {}
+  void EndProgram(int status) override { end_status = status; }
+  void ShowMainWindow() override {}
+  void SetCaption(std::string_view text) override { caption = text; }
+  void SetExitCaption(std::string_view) override {}
+  WindowColours SystemColours() const override { return {}; }
+  WindowSize ScreenSize() const override { return {28800, 16200}; }
+  WindowSize WindowOuterSize() const override { return size; }
+  WindowSize WindowInnerSize() const override { return size; }
+  void SetWindowWidth(double twips) override { size.width = twips; }
+  void SetWindowHeight(double twips) override { size.height = twips; }
+  WindowState State() const override { return WindowState::kNormal; }
+  void SetState(WindowState) override {}
+  void SetBarVisible(bool visible) override { bar_visible = visible; }
+  void SetBarLabel(BarLabel label, std::string_view text, uint32_t) override {
+    labels[label] = text;
+  }
+  void SetLanguageListVisible(bool) override {}
+  void SetMenuTick(std::string_view item, bool ticked) override {
+    ticks[std::string(item)] = ticked;
+  }
+  void SetMenuEnabled(std::string_view, bool) override {}
+  void ShowContextMenu() override { ++context_menus; }
+  PageChooser& PageDialog() override { return *this; }
+  std::optional<int> ChoosePage(int, int) override { return chosen_page; }
+
+  bool splash = false;
+  std::vector<std::string> splash_status;
+  std::vector<std::string> progress;  // after the splash
+  int end_status = -1;
+  std::string caption;
+  WindowSize size{9500, 6570};
+  bool bar_visible = true;
+  std::map<BarLabel, std::string> labels;
+  std::map<std::string, bool> ticks;
+  int context_menus = 0;
+  std::optional<int> chosen_page;
+};
+
+// Answers every box with `answer` (else the default) and `yes`, keeping what was asked.
+class FakeUser : public UserInteraction {
+ public:
+  void ShowMessage(std::string_view text, std::string_view) override {
+    messages.emplace_back(text);
+  }
+  std::optional<std::string> AskText(std::string_view prompt, std::string_view,
+                                     std::string_view default_text) override {
+    messages.emplace_back(prompt);
+    return answer ? answer : std::optional<std::string>(std::string(default_text));
+  }
+  bool AskYesNo(std::string_view question, std::string_view) override {
+    messages.emplace_back(question);
+    return yes;
+  }
+
+  std::vector<std::string> messages;
+  std::optional<std::string> answer;
+  bool yes = false;
+};
+
+// An ebook file at path holding text (Windows-1252).
+inline void WriteEbook(const std::string& path, const std::string& text) {
+  WriteFile(path, EbookFile("stub program", PackBody(PackableText(text, TextEncoding::kWindows1252),
+                                                     "Author", "Title")));
+}
+
+// Numbered paragraphs of prose, long enough for many pages.
+inline std::string NumberedProse(int paragraphs) {
+  std::string text;
+  for (int p = 1; p <= paragraphs; ++p) {
+    text += "Paragraph " + std::to_string(p) + " tells of the long road and the river. ";
+    text += "It goes on for a while before it stops.\r\n\r\n";
+  }
+  return text;
+}
+
+// The main window's logic over the fakes, in a program folder of its own holding
+// the helper library, the settings and an ebook (the "executable").
+class FakeReader {
+ public:
+  explicit FakeReader(const std::string& text, const std::string& settings = "") {
+    ResetGlobalSettings();
+    ClearActions();
+    std::filesystem::copy_file(std::filesystem::path(BinFolder()) / "libvHtml.so",
+                               folder.path() / "libvHtml.so");
+    setenv("XDG_DATA_HOME", folder.File("xdg").c_str(), 1);
+    if (!settings.empty()) WriteFile(folder.File("Vireo.ini"), settings);
+    WriteEbook(book_path, text);
+  }
+  ~FakeReader() {
+    SetLogFolder("");
+    ResetGlobalSettings();
+  }
+  void Start() { ASSERT_TRUE(logic.lifecycle().Form_Load()); }
+
+  TempFolder folder;
+  const std::string book_path = folder.File("Book");
+  FakeWindowView view;
+  FakePageBuffers buffers;
+  FakeUser user;
+  RecordingPump pump;
+  frmMain logic{view, buffers, user, pump, ProgramLocation{folder.str(), book_path}};
+};
+
+}  // namespace vireo::test
