@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <random>
 
-#include "../tests/book/random_text.h"
+#include "sample_text.h"
 #include "book/book_maker.h"
 #include "book/book_reader.h"
 #include "book/cls_bin.h"
@@ -31,7 +31,7 @@ std::string BookText() {
     while (text.size() < kBookSize) text += kjv;
   } else {
     std::mt19937 random(1);
-    text = test::ProseLikeText(random, kBookSize);
+    text = samples::ProseLikeText(random, kBookSize);
   }
   text.resize(kBookSize);
   return text;

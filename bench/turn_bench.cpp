@@ -1,7 +1,7 @@
-// A forward page turn in instant mode served from the cache, in the real
-// window (offscreen): two copies out of the higher cache, the spread painted
-// on screen, then the refill of that cache with the next spread, as a reader
-// sees it.
+// A forward page turn in instant mode served from the cache, on the book
+// canvas (offscreen) driven by the reader's logic: two copies out of the
+// higher cache, the spread painted on screen, then the refill of that cache
+// with the next spread, as a reader sees it.
 
 #include <benchmark/benchmark.h>
 
@@ -9,8 +9,10 @@
 #include <filesystem>
 #include <fstream>
 
+#include "app/book_canvas_widget.h"
+#include "app/frm_main.h"
+#include "app/headless_window.h"
 #include "app/interaction_qt.h"
-#include "app/main_window.h"
 #include "bench_qt.h"
 #include "book/book_maker.h"
 #include "support/logging.h"
@@ -45,11 +47,16 @@ void BM_InstantTurnFromCache(benchmark::State& state) {
         "stub", PackBody(PackableText(Prose(3000), TextEncoding::kWindows1252), "Author", "Title"));
   }
   StderrInteraction user;
-  MainWindow window(user, ProgramLocation{folder.string(), (folder / "Book").string()});
-  window.logic().lifecycle().Form_Load();
-  window.show();
+  QtMessagePump pump;
+  HeadlessWindowView view;
+  BookCanvasWidget canvas;
+  frmMain reader(view, canvas, user, pump,
+                 ProgramLocation{folder.string(), (folder / "Book").string()});
+  reader.lifecycle().Form_Load();
+  canvas.resize(static_cast<int>(view.size.width / BookCanvasWidget::kTwipsPerPixel),
+                static_cast<int>(view.size.height / BookCanvasWidget::kTwipsPerPixel));
+  canvas.show();
   QCoreApplication::processEvents();
-  frmMain& reader = window.logic();
   const int last = reader.pages().count - 4;
   for (auto _ : state) {
     if (reader.current_page() >= last) {

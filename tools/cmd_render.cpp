@@ -10,8 +10,10 @@
 #include <memory>
 #include <string>
 
+#include "app/book_canvas_widget.h"
+#include "app/frm_main.h"
+#include "app/headless_window.h"
 #include "app/interaction_qt.h"
-#include "app/main_window.h"
 #include "support/logging.h"
 #include "support/platform.h"
 #include "tool_commands.h"
@@ -45,8 +47,9 @@ bool ParseRender(const Arguments& arguments, RenderRequest& request) {
   return !request.file.empty() && !request.output.empty() && request.page >= 1;
 }
 
-// The reader opened on a file, offscreen, without touching the reader's log
-// or the desktop's file types.
+// The reader's logic opened on a file, offscreen, drawing onto the book
+// canvas alone (no main window, no control bar), without touching the
+// reader's log or the desktop's file types.
 class HeadlessReader {
  public:
   explicit HeadlessReader(const RenderRequest& request) {
@@ -54,21 +57,29 @@ class HeadlessReader {
     SetLoggingDisabled(true);
     setenv("XDG_DATA_HOME", desktop_.path().toLocal8Bit().constData(), 1);
     application_ = std::make_unique<QApplication>(argc_, argv_);
-    window_ = std::make_unique<MainWindow>(user_, ProgramLocation{ProgramFolder(), request.file});
-    started_ = window_->logic().lifecycle().Form_Load();
+    canvas_ = std::make_unique<BookCanvasWidget>();
+    reader_ = std::make_unique<frmMain>(view_, *canvas_, user_, pump_,
+                                        ProgramLocation{ProgramFolder(), request.file});
+    started_ = reader_->lifecycle().Form_Load();
     if (!started_) return;
-    window_->show();
-    frmMain& reader = window_->logic();
-    if (request.single != reader.preferences().single_page_mode) {
-      reader.preferences().single_page_mode = request.single;
-      reader.view_commands().UpdateBookMode(false);
+    if (request.single != reader_->preferences().single_page_mode) {
+      reader_->preferences().single_page_mode = request.single;
+      reader_->view_commands().UpdateBookMode(false);
     }
-    reader.spread().ShowPage(request.page);
+    constexpr double kTwipsPerPixel = BookCanvasWidget::kTwipsPerPixel;
+    canvas_->resize(static_cast<int>(view_.size.width / kTwipsPerPixel + 0.5),
+                    static_cast<int>(view_.size.height / kTwipsPerPixel + 0.5));
+    canvas_->show();
+    reader_->spread().ShowPage(request.page);
     QCoreApplication::processEvents();
   }
 
   bool started() const { return started_; }
-  MainWindow& window() { return *window_; }
+  frmMain& reader() { return *reader_; }
+  QtMessagePump& pump() { return pump_; }
+  bool Save(const std::string& path) {
+    return canvas_->grab().save(QString::fromLocal8Bit(path.c_str()), "PNG");
+  }
 
  private:
   int argc_ = 1;
@@ -76,14 +87,13 @@ class HeadlessReader {
   char* argv_[2] = {name_, nullptr};
   QTemporaryDir desktop_;
   StderrInteraction user_;
+  QtMessagePump pump_;
+  HeadlessWindowView view_;
   std::unique_ptr<QApplication> application_;
-  std::unique_ptr<MainWindow> window_;
+  std::unique_ptr<BookCanvasWidget> canvas_;
+  std::unique_ptr<frmMain> reader_;
   bool started_ = false;
 };
-
-bool SavePicture(MainWindow& window, const std::string& path) {
-  return window.grab().save(QString::fromLocal8Bit(path.c_str()), "PNG");
-}
 
 }  // namespace
 
@@ -95,7 +105,7 @@ int RunRender(const Arguments& arguments) {
   if (!FileExists(request.file)) return Fail("cannot read " + request.file);
   HeadlessReader reader(request);
   if (!reader.started()) return Fail("the helper library is missing");
-  if (!SavePicture(reader.window(), request.output)) return Fail("cannot write " + request.output);
+  if (!reader.Save(request.output)) return Fail("cannot write " + request.output);
   std::printf("%s\n", request.output.c_str());
   return 0;
 }
@@ -115,19 +125,18 @@ int RunSweep(const Arguments& arguments) {
   }
   HeadlessReader reader(request);
   if (!reader.started()) return Fail("the helper library is missing");
-  MainWindow& window = reader.window();
   int frame = 0;
   bool written = true;
   const auto record = [&] {
     char name[32];
     std::snprintf(name, sizeof name, "/frame-%03d.png", frame++);
-    written = SavePicture(window, request.output + name) && written;
+    written = reader.Save(request.output + name) && written;
   };
   record();
-  window.logic().preferences().instant_page_turn = false;
-  window.pump().SetPauseObserver(record);
-  window.logic().spread().NextPage();
-  window.pump().SetPauseObserver(nullptr);
+  reader.reader().preferences().instant_page_turn = false;
+  reader.pump().SetPauseObserver(record);
+  reader.reader().spread().NextPage();
+  reader.pump().SetPauseObserver(nullptr);
   record();
   if (!written) return Fail("cannot write the frames into " + request.output);
   std::printf("%d frames in %s\n", frame, request.output.c_str());

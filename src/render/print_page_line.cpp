@@ -11,7 +11,7 @@
 #include "render/surface.h"
 #include "render/surface_text.h"
 #include "support/checked_int16.h"
-#include "support/cp1252_case.h"
+#include "vhtml/cp1252_case.h"
 #include "support/error_trap.h"
 
 namespace vireo {

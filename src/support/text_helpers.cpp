@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "support/cp1252_case.h"
+#include "vhtml/cp1252_case.h"
 #include "support/runtime_error.h"
 #include "support/vhtml_library.h"
 #include "vhtml/vhtml.h"

@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "support/cp1252_case.h"
+#include "vhtml/cp1252_case.h"
 
 namespace {
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "app/frm_main.h"
+#include "app/headless_window.h"
 #include "book/book_maker.h"
 #include "fake_pump.h"
 #include "fake_surface.h"
@@ -63,51 +64,18 @@ class FakePageBuffers : public PageBuffers {
   double marker_top = 0;
 };
 
-// A window without a window system: sizes, captions, labels and ticks kept as set.
-class FakeWindowView : public MainWindowView, public PageChooser {
+// The headless window, keeping every progress text (before and after the splash) and counting
+// the context menus it was asked to show.
+class FakeWindowView : public HeadlessWindowView {
  public:
   void ShowProgress(std::string_view text) override {
-    (splash ? splash_status : progress).emplace_back(text);
+    (splash ? splash_status : progress_shown).emplace_back(text);
   }
-  void ShowSplash() override { splash = true; }
-  void UnloadSplash() override { splash = false; }
-  void UnloadAllWindows() override {}
-  void EndProgram(int status) override { end_status = status; }
-  void ShowMainWindow() override {}
-  void SetCaption(std::string_view text) override { caption = text; }
-  void SetExitCaption(std::string_view) override {}
-  WindowColours SystemColours() const override { return {}; }
-  WindowSize ScreenSize() const override { return {28800, 16200}; }
-  WindowSize WindowOuterSize() const override { return size; }
-  WindowSize WindowInnerSize() const override { return size; }
-  void SetWindowWidth(double twips) override { size.width = twips; }
-  void SetWindowHeight(double twips) override { size.height = twips; }
-  WindowState State() const override { return WindowState::kNormal; }
-  void SetState(WindowState) override {}
-  void SetBarVisible(bool visible) override { bar_visible = visible; }
-  void SetBarLabel(BarLabel label, std::string_view text, uint32_t) override {
-    labels[label] = text;
-  }
-  void SetLanguageListVisible(bool) override {}
-  void SetMenuTick(std::string_view item, bool ticked) override {
-    ticks[std::string(item)] = ticked;
-  }
-  void SetMenuEnabled(std::string_view, bool) override {}
   void ShowContextMenu() override { ++context_menus; }
-  PageChooser& PageDialog() override { return *this; }
-  std::optional<int> ChoosePage(int, int) override { return chosen_page; }
 
-  bool splash = false;
   std::vector<std::string> splash_status;
-  std::vector<std::string> progress;  // after the splash
-  int end_status = -1;
-  std::string caption;
-  WindowSize size{9500, 6570};
-  bool bar_visible = true;
-  std::map<BarLabel, std::string> labels;
-  std::map<std::string, bool> ticks;
+  std::vector<std::string> progress_shown;  // after the splash
   int context_menus = 0;
-  std::optional<int> chosen_page;
 };
 
 // Answers every box with `answer` (else the default) and `yes`, keeping what was asked.

@@ -127,13 +127,13 @@ TEST(ReaderLogic, DeletingTheOpenBookErasesItsFileOnlyWhenConfirmed) {
 TEST(ReaderLogic, ADroppedBookLoadsWithItsProgressShownAfterTheSplash) {
   FakeReader reader(test::NumberedProse(50), kInstant);
   reader.Start();
-  EXPECT_THAT(reader.view.progress, Not(testing::Contains(HasSubstr("%"))));
+  EXPECT_THAT(reader.view.progress_shown, Not(testing::Contains(HasSubstr("%"))));
   const std::string dropped = reader.folder.File("Second.txt");
   test::WriteEbook(dropped, "A second book that is short.");
   reader.logic.commands().Page_OLEDragDrop(dropped);
   EXPECT_EQ(reader.view.caption, "Second.txt");
-  EXPECT_THAT(reader.view.progress, testing::Contains(HasSubstr("%")));
-  EXPECT_EQ(reader.view.progress.back(), "");  // taken away when done
+  EXPECT_THAT(reader.view.progress_shown, testing::Contains(HasSubstr("%")));
+  EXPECT_EQ(reader.view.progress_shown.back(), "");  // taken away when done
 
   reader.logic.commands().Page_OLEDragDrop(reader.folder.File("picture.png"));
   EXPECT_EQ(reader.user.messages.back(), "Cannot load that type of file");

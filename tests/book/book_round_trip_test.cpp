@@ -8,7 +8,7 @@
 #include "book/book_maker.h"
 #include "book/book_reader.h"
 #include "book/load_file.h"
-#include "book/random_text.h"
+#include "sample_text.h"
 #include "book/replace_known_char_reference.h"
 #include "test_support.h"
 
@@ -56,12 +56,12 @@ TEST_F(RoundTrip, EveryByteValueAndLongRunsOfBlanksAndLineEnds) {
 
 TEST_F(RoundTrip, HostilePieces) {
   std::mt19937 random(5);
-  std::vector<std::string> pieces = test::ReformattingPieces();
+  std::vector<std::string> pieces = samples::ReformattingPieces();
   pieces.insert(pieces.end(),
                 {"&amp;", "&#201;", "&eacute;", "&#x41;", "\xC9", " \xC8", "\xA9", "\xB3", "f0",
                  "f 0", "the", "There", "tre", "\xFF", std::string(1, '\0'), "&#", ";", "tion"});
   for (int round = 0; round < 15; ++round) {
-    ExpectRoundTrip(test::RandomFromPieces(random, pieces, 400), "round " + std::to_string(round));
+    ExpectRoundTrip(samples::RandomFromPieces(random, pieces, 400), "round " + std::to_string(round));
   }
 }
 

@@ -4,7 +4,7 @@
 
 #include <random>
 
-#include "book/random_text.h"
+#include "sample_text.h"
 
 namespace vireo {
 namespace {
@@ -16,7 +16,7 @@ TEST(ByteSet, NextFindsTheFirstMemberFromAnyStart) {
   std::mt19937 random(3);
   std::uniform_int_distribution<int> sparse(0, 40);
   for (int round = 0; round < 200; ++round) {
-    std::string text = test::RandomBytes(random, 70);
+    std::string text = samples::RandomBytes(random, 70);
     for (char& c : text) {
       if (kSet.Contains(c) && sparse(random) != 0) c = 'a';
     }

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "book/random_text.h"
+#include "sample_text.h"
 #include "book/replace_known_char_reference.h"
 
 namespace vireo {
@@ -63,8 +63,8 @@ TEST(ReplaceKnownChar, FastPassesMatchTheStepsOnRandomTexts) {
   std::uniform_int_distribution<size_t> pieces(0, 60);
   for (int round = 0; round < 1200; ++round) {
     const std::string input =
-        round % 4 == 0 ? test::RandomBytes(random, pieces(random) * 3)
-                       : test::RandomFromPieces(random, test::ReformattingPieces(), pieces(random));
+        round % 4 == 0 ? samples::RandomBytes(random, pieces(random) * 3)
+                       : samples::RandomFromPieces(random, samples::ReformattingPieces(), pieces(random));
     for (const FormattingOptions& options : test::AllFormattingOptions()) {
       std::string expected = input;
       test::ReplaceKnownCharStepByStep(expected, options);

@@ -4,7 +4,7 @@
 
 #include <random>
 
-#include "book/random_text.h"
+#include "sample_text.h"
 
 namespace vireo {
 namespace {
@@ -32,7 +32,7 @@ TEST(WordTable, OnePassExpansionGivesTheFinalMeaningOfEachCodeRowByRow) {
   EXPECT_EQ(ExpandWords("f r a\xA9\xC8"), "ffrfa\xA9\xC8");
   std::mt19937 random(7);
   for (int round = 0; round < 200; ++round) {
-    const std::string text = test::RandomBytes(random, 300);
+    const std::string text = samples::RandomBytes(random, 300);
     ASSERT_EQ(ExpandWords(text), ExpandRowByRow(text));
   }
 }

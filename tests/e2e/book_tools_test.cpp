@@ -8,7 +8,7 @@
 
 #include "book/ebook_stub.h"
 #include "book/load_file.h"
-#include "book/random_text.h"
+#include "sample_text.h"
 #include "book/replace_known_char_reference.h"
 #include "e2e/program_runner.h"
 
@@ -31,7 +31,7 @@ TEST(BookTools, MakeThenTextGivesTheReformattedTextInEveryCombination) {
   const std::string sample = test::BinFolder() + "/samples/genesis.txt";
   std::mt19937 random(77);  // prose-like text when the build made no sample
   const std::string text = std::filesystem::exists(sample) ? test::ReadFile(sample)
-                                                           : test::ProseLikeText(random, 200000);
+                                                           : samples::ProseLikeText(random, 200000);
   test::WriteFile(folder.File("sample.txt"), text);
   const std::string book = folder.File("Sample Book");
   const auto made = test::Run(Tool() + " make " + Quoted(folder.File("sample.txt")) + " -o " +

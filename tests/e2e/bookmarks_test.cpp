@@ -6,7 +6,7 @@
 #include <random>
 #include <string>
 
-#include "book/random_text.h"
+#include "sample_text.h"
 #include "e2e/program_runner.h"
 #include "nav/bookmarks.h"
 
@@ -21,7 +21,7 @@ class BookmarksAcrossRuns : public testing::Test {
                     "INSTANTPAGETURN,True\r\nBARHIDDEN,True\r\nWINWIDTH,9500\r\n");
     test::WriteFile(program_.Path("BookMarks.ini"), "OTHER BOOK,5000\r\n");
     std::mt19937 random(3);
-    test::WriteFile(program_.Path("novel.txt"), test::ProseLikeText(random, 40000));
+    test::WriteFile(program_.Path("novel.txt"), samples::ProseLikeText(random, 40000));
     const auto made =
         test::Run(program_.Path("vireo-tool") + " make " + program_.Path("novel.txt") + " -o " +
                       program_.Path("Novel") + " --stub " + program_.Path("Vireo"),

@@ -3,7 +3,7 @@
 
 #include <random>
 
-#include "book/random_text.h"
+#include "sample_text.h"
 #include "e2e/program_runner.h"
 
 namespace vireo {
@@ -18,7 +18,7 @@ long long Milestone(const std::string& err, const std::string& name) {
 TEST(FirstSpread, IsOnScreenBeforeA5MegabyteBookIsPaginated) {
   test::ProgramFolder program;
   std::mt19937 random(5);
-  test::WriteFile(program.Path("book.txt"), test::ProseLikeText(random, 5'000'000));
+  test::WriteFile(program.Path("book.txt"), samples::ProseLikeText(random, 5'000'000));
   const auto made = test::Run(program.Path("vireo-tool") + " make " + program.Path("book.txt") +
                                   " -o " + program.Path("Big") + " --stub " + program.Path("Vireo"),
                               {}, program.folder());

@@ -6,7 +6,7 @@
 #include <random>
 
 #include "book/cls_strip_cr.h"
-#include "book/random_text.h"
+#include "sample_text.h"
 #include "fake_pump.h"
 #include "layout/font_metrics.h"
 #include "layout/reindex.h"
@@ -28,7 +28,7 @@ TEST(PaginateThenCompose, EveryPageFitsItsLines) {
   }
   test::RecordingPump pump;
   for (int book = 0; book < 6; ++book) {
-    std::string text = test::ProseLikeText(random, 60'000);
+    std::string text = samples::ProseLikeText(random, 60'000);
     clsStripCR::ReplaceKnownChar(text, FormattingOptions{});
     const double line_width = 3000 + 700 * book;
     const int16_t lines_per_page = static_cast<int16_t>(12 + 5 * book);

@@ -1,6 +1,6 @@
 #pragma once
 
-// Random texts for property tests: random bytes, and texts of the pieces the
+// Generated texts for tests and benchmarks: random bytes, and texts of the pieces the
 // book code treats specially, so that rare combinations come up often.
 
 #include <cctype>
@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace vireo::test {
+namespace vireo::samples {
 
 inline std::string RandomBytes(std::mt19937& random, size_t length) {
   std::uniform_int_distribution<int> byte(0, 255);
@@ -84,4 +84,4 @@ inline std::string ProseLikeText(std::mt19937& random, size_t length) {
   return text;
 }
 
-}  // namespace vireo::test
+}  // namespace vireo::samples
