@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Sets up, builds, and writes pictures of the sample book as the reader shows
-# it at the default window size: the first spread in two-page and in
-# single-page mode, and the title page of a reader without a book.
+# it at the default window size: the whole window, the first spread in
+# two-page and in single-page mode, and the title page of a reader without a
+# book.
 #   scripts/pictures.sh [OUTPUT_FOLDER]   (default: build/pictures)
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -14,7 +15,10 @@ mkdir -p "$out"
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cp "$bin/vireo-tool" "$bin/Vireo" "$bin/Genesis" "$bin/libvHtml.so" "$bin"/paper*.jpg "$work/"
-export XDG_RUNTIME_DIR="$work"
+export XDG_RUNTIME_DIR="$work" XDG_DATA_HOME="$work/xdg"
+QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_SCREENSHOT="$PWD/$out/main-window.png" \
+  "$work/Genesis" >/dev/null
+rm -f "$work/Vireo.ini" "$work/BookMarks.ini"
 "$work/vireo-tool" render "$work/Genesis" --page 1 -o "$out/first-spread.png"
 "$work/vireo-tool" render "$work/Genesis" --page 1 --single -o "$out/first-page-single.png"
 "$work/vireo-tool" render "$work/Vireo" --page 1 -o "$out/title-page.png" 2>/dev/null

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -142,5 +143,14 @@ class FakeReader {
   RecordingPump pump;
   frmMain logic{view, buffers, user, pump, ProgramLocation{folder.str(), book_path}};
 };
+
+// Whether the book was paginated while action ran.
+inline bool Repaginates(FakeReader& reader, const std::function<void()>& action) {
+  bool seen = false;
+  reader.pump.on_yield = [&] { seen |= reader.logic.paginator_busy(); };
+  action();
+  reader.pump.on_yield = nullptr;
+  return seen;
+}
 
 }  // namespace vireo::test

@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "app/fake_window.h"
 #include "book/load_file.h"
 #include "nav/bookmarks.h"
@@ -31,22 +33,37 @@ TEST(ReaderLogic, StartUpShowsTheFirstSpreadAndCountsThePages) {
   EXPECT_THAT(reader.view.splash_status, testing::Contains(HasSubstr("Unpacking")));
 }
 
-TEST(ReaderLogic, KeysAreDroppedWhilePaginatingAndTurnAfterwards) {
+TEST(ReaderLogic, KeysAndExitAreDroppedWhilePaginatingAndWorkAfterwards) {
   FakeReader reader(test::NumberedProse(300), kInstant);
   reader.Start();
-  int turned_during = 0;
+  const int32_t place = reader.logic.pages().PageStart(2);
+  const size_t messages = reader.user.messages.size();
+  bool during = false;
   reader.pump.on_yield = [&] {
-    if (!reader.logic.paginator_busy()) return;
-    const int before = reader.logic.current_page();
-    reader.logic.commands().Form_KeyUp(vk::kSpace, ShiftKey::kUp);
-    turned_during += reader.logic.current_page() != before;
+    if (during || !reader.logic.paginator_busy() || reader.logic.reindexing()) return;
+    during = true;
+    for (int key : {vk::kSpace, int('B'), int('1'), int('L'), int('Q'), vk::kF1}) {
+      reader.logic.commands().Form_KeyUp(key, ShiftKey::kUp);
+    }
+    reader.logic.lifecycle().Quit();
+    reader.logic.view_commands().cmdSmallerFont_Click();
   };
-  reader.logic.view_commands().ChangeFontSize(12);
+  reader.logic.view_commands().cmdBiggerFont_Click();
   reader.pump.on_yield = nullptr;
-  EXPECT_EQ(turned_during, 0);
-  const int before = reader.logic.current_page();
+  ASSERT_TRUE(during);
+  EXPECT_EQ(reader.logic.preferences().font_size, 11) << "the font change went through alone";
+  const int right = reader.logic.current_page();
+  EXPECT_LE(reader.logic.pages().PageStart(right - 1), place) << "no page was turned";
+  EXPECT_GT(reader.logic.pages().PageStart(right + 1), place);
+  EXPECT_TRUE(reader.view.bar_visible);
+  EXPECT_FALSE(reader.logic.preferences().single_page_mode);
+  EXPECT_EQ(reader.user.messages.size(), messages);
+  EXPECT_EQ(reader.view.end_status, -1) << "Exit waits for the pagination";
+
   reader.logic.commands().Form_KeyUp(vk::kSpace, ShiftKey::kUp);
-  EXPECT_EQ(reader.logic.current_page(), before + 2);
+  EXPECT_EQ(reader.logic.current_page(), right + 2);
+  reader.logic.commands().Form_KeyUp('Q', ShiftKey::kUp);
+  EXPECT_EQ(reader.view.end_status, 0);
 }
 
 TEST(ReaderLogic, AFontSizeChangeReopensTheBookWhereItWas) {
@@ -77,26 +94,95 @@ TEST(ReaderLogic, TheBarAndThePageModeLayTheBookOutAgain) {
   EXPECT_TRUE(reader.logic.preferences().bar_hidden);
   EXPECT_FALSE(reader.view.bar_visible);
   EXPECT_GT(reader.buffers.layout.page_height, height_with_bar);
+  reader.view.size.width = 8000;  // wide enough without the bar
+  reader.logic.commands().Form_KeyUp('B', ShiftKey::kUp);
+  EXPECT_EQ(reader.view.size.width, 9500) << "the bar widens a narrow window";
 
-  reader.logic.commands().Form_KeyUp('1', ShiftKey::kUp);
+  EXPECT_FALSE(test::Repaginates(reader, [&] { reader.logic.commands().Form_KeyUp('2', {}); }));
+  reader.logic.spread().ShowPage(9);
+  const int32_t place = reader.logic.pages().PageStart(reader.logic.current_page());
+  EXPECT_TRUE(test::Repaginates(reader, [&] { reader.logic.commands().Form_KeyUp('1', {}); }));
   EXPECT_TRUE(reader.logic.preferences().single_page_mode);
   EXPECT_FALSE(reader.buffers.layout.right_frame_visible);
   EXPECT_EQ(reader.view.size.width, 6000);
   EXPECT_EQ(sget("WinWidth", 0).ToNumber(), 9500);  // the two-page size kept for later
+  EXPECT_LE(reader.logic.pages().PageStart(reader.logic.current_page()), place);
+  EXPECT_FALSE(test::Repaginates(reader, [&] { reader.logic.commands().Form_KeyUp('1', {}); }));
+
   reader.logic.commands().Form_KeyUp('2', ShiftKey::kUp);
   EXPECT_TRUE(reader.buffers.layout.right_frame_visible);
   EXPECT_EQ(reader.view.size.width, 9500);
+  const PageIndex& pages = reader.logic.pages();
+  const int right = reader.logic.current_page();
+  EXPECT_EQ(right % 2, 0);
+  EXPECT_LE(pages.PageStart(right - 1), place);
+  EXPECT_GT(pages.PageStart(right + 1), place) << "the spread that holds the place";
 }
 
-TEST(ReaderLogic, FindNextAndPreviousMoveBetweenMatches) {
+TEST(ReaderLogic, TheWindowKeepsItsSmallestSizeAndAResizeWhilePaginatingIsUndone) {
+  FakeReader reader(test::NumberedProse(300), kInstant);
+  reader.Start();
+  const auto resize = [&](double width, double height) {
+    reader.view.size = {width, height};
+    reader.logic.view_commands().Form_Resize();
+    return reader.view.size;
+  };
+  EXPECT_EQ(resize(6000, 7000), (WindowSize{9500, 7000})) << "with the bar, at least 9500 wide";
+  EXPECT_EQ(resize(10000, 5000), (WindowSize{10000, 6570})) << "at least 6570 twips high";
+  reader.logic.view_commands().ToggleBar();
+  EXPECT_EQ(resize(5000, 6570).width, 5000) << "without the bar 5000 twips is enough";
+  EXPECT_EQ(resize(2000, 6570).width, 3500) << "but not less than 3500";
+
+  const WindowSize before = resize(10000, 7000);
+  bool during = false;
+  reader.pump.on_yield = [&] {
+    if (during || !reader.logic.paginator_busy()) return;
+    during = true;
+    resize(13000, 9000);
+  };
+  reader.logic.view_commands().cmdBiggerFont_Click();
+  reader.pump.on_yield = nullptr;
+  ASSERT_TRUE(during);
+  EXPECT_EQ(reader.view.size, before);
+}
+
+TEST(ReaderLogic, TheFormattingMenuReloadsTheBookWithItsOptions) {
+  FakeReader reader("An _underlined_ word.\r\nA second line.\r\n\r\nA new paragraph.");
+  reader.Start();
+  ReaderCommands& commands = reader.logic.commands();
+  const std::string formatted = reader.logic.book_pages().text;
+  EXPECT_TRUE(test::Repaginates(reader, [&] { commands.mnuUnderscores_Click(); }));
+  EXPECT_TRUE(reader.view.ticks["mnuUnderscores"]);
+  EXPECT_NE(reader.logic.book_pages().text.find("\x82underlined\x83"), std::string::npos);
+  commands.mnuUnderscores_Click();
+
+  commands.mnuExtraLine_Click();
+  EXPECT_NE(reader.logic.book_pages().text.find("\n  \n"), std::string::npos);
+  commands.mnuExtraLine_Click();
+
+  commands.mnuFormatting_Click();
+  EXPECT_FALSE(reader.view.ticks["mnuFormatting"]);
+  EXPECT_EQ(sget("Reformat", true).ToBoolean(), false) << "written at once";
+  EXPECT_NE(reader.logic.book_pages().text, formatted)
+      << "the line break inside the paragraph stays";
+  commands.mnuFormatting_Click();
+  EXPECT_EQ(reader.logic.book_pages().text, formatted);
+}
+
+TEST(ReaderLogic, FindNextAndPreviousMoveBetweenMatchesWhateverTheirCase) {
   std::string text = test::NumberedProse(400);
   text.insert(text.find("Paragraph 150 "), "Zebra ");
   text.insert(text.find("Paragraph 300 "), "Zebra ");
   FakeReader reader(text, kInstant);
-  reader.user.answer = "Zebra";
+  reader.user.answer = "ZEBRA";
   reader.Start();
+  const auto no_more_matches = [&] {
+    return std::count(reader.user.messages.begin(), reader.user.messages.end(), "No more matches");
+  };
   reader.logic.search().GetSearchTerm();
-  EXPECT_EQ(reader.view.labels[BarLabel::kSearch], "Zebra");
+  EXPECT_EQ(reader.view.labels[BarLabel::kSearch], "ZEBRA");
+  reader.logic.search().FindPrev();
+  EXPECT_EQ(no_more_matches(), 1) << "nothing before the first spread";
   reader.logic.search().FindNext();
   const int first = reader.logic.current_page();
   EXPECT_THAT(reader.buffers.Text(kLeftPageBox) + reader.buffers.Text(kRightPageBox),
@@ -104,6 +190,9 @@ TEST(ReaderLogic, FindNextAndPreviousMoveBetweenMatches) {
   reader.logic.search().FindNext();
   const int second = reader.logic.current_page();
   EXPECT_GT(second, first);
+  reader.logic.search().FindNext();
+  EXPECT_EQ(no_more_matches(), 2);
+  EXPECT_EQ(reader.logic.current_page(), second);
   reader.logic.search().FindPrev();
   EXPECT_EQ(reader.logic.current_page(), first);
 }
@@ -112,6 +201,8 @@ TEST(ReaderLogic, DeletingTheOpenBookErasesItsFileOnlyWhenConfirmed) {
   FakeReader reader(test::NumberedProse(50), kInstant);
   reader.Start();
   reader.logic.commands().mnuErasefile_Click();
+  EXPECT_EQ(reader.user.messages.back(),
+            "Do you really want to erase " + reader.book_path + " from your hard disk?");
   EXPECT_TRUE(test::FileExists(reader.book_path));
   EXPECT_TRUE(reader.logic.book_pages().loaded);
 
@@ -135,9 +226,15 @@ TEST(ReaderLogic, ADroppedBookLoadsWithItsProgressShownAfterTheSplash) {
   EXPECT_THAT(reader.view.progress_shown, testing::Contains(HasSubstr("%")));
   EXPECT_EQ(reader.view.progress_shown.back(), "");  // taken away when done
 
+  // The name decides whether the file is tried.
+  for (const char* name : {"BOOK.TXT", "notes.txt.old", "page.htm"}) {
+    test::WriteFile(reader.folder.File(name), "Just some text, no book.");
+    reader.logic.commands().Page_OLEDragDrop(reader.folder.File(name));
+    EXPECT_EQ(reader.user.messages.back(), "There is no ebook stored in this file.") << name;
+  }
   reader.logic.commands().Page_OLEDragDrop(reader.folder.File("picture.png"));
   EXPECT_EQ(reader.user.messages.back(), "Cannot load that type of file");
-  EXPECT_EQ(reader.view.caption, "Second.txt");
+  EXPECT_EQ(reader.view.caption, "Second.txt") << "the book on show stays";
 }
 
 TEST(ReaderLogic, TheMouseOnThePagesTurnsMarksAndOpensTheMenu) {

@@ -1,5 +1,6 @@
-// Searching from the real window: the term on the control bar, Find Next and
-// Find Previous, and the matches drawn in the highlight colour.
+// Searching from the real window: the term on the control bar and the
+// matches drawn in the highlight colour. Where the moves land is tested
+// through the fake window (reader_logic_test).
 
 #include <gtest/gtest.h>
 
@@ -34,12 +35,6 @@ void EnterTerm(test::ReaderWindow& reader, const std::string& term) {
   QApplication::processEvents();
 }
 
-size_t NoMoreMatches(test::ReaderWindow& reader) {
-  size_t count = 0;
-  for (const std::string& message : reader.user().messages) count += message == "No more matches";
-  return count;
-}
-
 TEST(SearchWindow, ANewTermRedrawsInPlaceAndABlankOneSearchesNothing) {
   test::ReaderWindow reader(test::SampleProse(60), kRedMatches);
   reader.Start();
@@ -59,32 +54,6 @@ TEST(SearchWindow, ANewTermRedrawsInPlaceAndABlankOneSearchesNothing) {
   test::Trigger(reader, "mnuFindNext");
   EXPECT_EQ(reader.user().messages.size(), messages);
   EXPECT_EQ(reader.logic().current_page(), 2);
-}
-
-TEST(SearchWindow, FindNextAndPreviousTurnToThePageThatHoldsTheTerm) {
-  test::ReaderWindow reader(test::SampleProse(60), kRedMatches);
-  reader.Start();
-  const std::string& text = reader.logic().book_pages().text;
-  const auto position = static_cast<int32_t>(text.find("Sentence 4 of paragraph 30 goes") + 1);
-  const PageIndex& pages = reader.logic().pages();
-  int page = 1;  // the page holding the term, which is once in the book
-  while (page < pages.count && pages.PageStart(page + 1) <= position) ++page;
-  ASSERT_GT(page, 3);
-  EnterTerm(reader, "SENTENCE 4 OF PARAGRAPH 30 GOES");
-  Press(reader, Qt::Key_P);
-  EXPECT_EQ(NoMoreMatches(reader), 1u) << "nothing before the first spread";
-  const QImage before = test::BoxPicture(reader, kRightPageBox);
-  reader.window().bar().cmdFindNext->click();
-  EXPECT_EQ(reader.logic().current_page(), page);
-  EXPECT_NE(test::BoxPicture(reader, kRightPageBox), before) << "the page found is drawn";
-  Press(reader, Qt::Key_N);
-  EXPECT_EQ(NoMoreMatches(reader), 2u) << "the term is only on the page on show";
-  EXPECT_EQ(reader.logic().current_page(), page);
-
-  Press(reader, Qt::Key_Space);
-  Press(reader, Qt::Key_Space);
-  reader.window().bar().cmdFindPrev->click();
-  EXPECT_EQ(reader.logic().current_page(), page);
 }
 
 }  // namespace
