@@ -30,12 +30,21 @@ void OnTerminate(int) {
   [[maybe_unused]] const auto written = write(g_signal_pipe[1], &byte, 1);
 }
 
-// SIGTERM and SIGINT ask the program to quit as Exit does. The handler is
-// in place before the start-up sequence; while the reader cannot close yet
-// (starting, paginating) the request is tried again at every yield until
-// it goes through.
-void QuitOnSignals(vireo::MainWindow& window) {
+// SIGTERM and SIGINT ask the program to quit as Exit does. The handlers are
+// in place before anything else runs: a signal that comes early waits in the
+// pipe until the window listens.
+void CatchSignals() {
   if (socketpair(AF_UNIX, SOCK_STREAM, 0, g_signal_pipe) != 0) return;
+  std::signal(SIGTERM, OnTerminate);
+  std::signal(SIGINT, OnTerminate);
+}
+
+// A signal that arrives during the start-up sequence is kept until the
+// sequence has finished; afterwards, while the reader cannot close yet
+// (paginating), the request is tried again at every yield until it goes
+// through. Returns what starts the retries once start-up is complete.
+std::function<void()> QuitOnSignals(vireo::MainWindow& window) {
+  if (g_signal_pipe[0] < 0) return [] {};
   auto* notifier = new QSocketNotifier(g_signal_pipe[0], QSocketNotifier::Read, &window);
   auto* retry = new QTimer(&window);
   retry->setInterval(0);
@@ -43,16 +52,24 @@ void QuitOnSignals(vireo::MainWindow& window) {
     if (window.end_status() < 0) window.logic().lifecycle().Quit();
     if (window.end_status() >= 0) retry->stop();
   });
-  QObject::connect(notifier, &QSocketNotifier::activated, &window, [retry] {
+  auto started = std::make_shared<bool>(false);
+  auto pending = std::make_shared<bool>(false);
+  QObject::connect(notifier, &QSocketNotifier::activated, &window, [retry, started, pending] {
     char byte = 0;
     [[maybe_unused]] const auto count = read(g_signal_pipe[0], &byte, 1);
-    retry->start();
+    *pending = true;
+    if (*started) retry->start();
   });
-  std::signal(SIGTERM, OnTerminate);
-  std::signal(SIGINT, OnTerminate);
+  return [retry, started, pending] {
+    *started = true;
+    if (*pending) retry->start();
+  };
 }
 #else
-void QuitOnSignals(vireo::MainWindow&) {}
+void CatchSignals() {}
+std::function<void()> QuitOnSignals(vireo::MainWindow&) {
+  return [] {};
+}
 #endif
 
 int EnvironmentNumber(const char* name) {
@@ -99,6 +116,7 @@ void ScheduleAutomation(vireo::MainWindow& window) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  CatchSignals();
   QApplication application(argc, argv);
   std::unique_ptr<vireo::UserInteraction> user;
   auto* qt_user = new vireo::QtUserInteraction();
@@ -112,11 +130,10 @@ int main(int argc, char* argv[]) {
   vireo::MainWindow window(*user,
                            vireo::ProgramLocation{vireo::ProgramFolder(), vireo::ExecutablePath()});
   if (qt_user != nullptr) qt_user->set_parent(&window);
-  QuitOnSignals(window);
+  const std::function<void()> started = QuitOnSignals(window);
   if (!window.logic().lifecycle().Form_Load()) return 1;
-  // A signal during start-up may already have closed the program.
-  if (window.end_status() >= 0) return window.end_status();
   window.show();
+  started();
   const char* keys = std::getenv("VIREO_KEYS");
   PressKeys(window, keys != nullptr ? keys : "", [&window] { ScheduleAutomation(window); });
   const int status = application.exec();

@@ -31,6 +31,11 @@ TEST(ReaderLogic, StartUpShowsTheFirstSpreadAndCountsThePages) {
   EXPECT_GT(reader.logic.pages().count, 10);
   EXPECT_FALSE(reader.view.splash);
   EXPECT_THAT(reader.view.splash_status, testing::Contains(HasSubstr("Unpacking")));
+  // The book's edges at start-up are those of any later layout at that size.
+  const EdgeLines at_start = reader.buffers.layout.lines;
+  EXPECT_GT(at_start.hard_left.y2, at_start.hard_left.y1);
+  reader.logic.view_commands().UpdateBookMode(false);
+  EXPECT_EQ(reader.buffers.layout.lines, at_start);
 }
 
 TEST(ReaderLogic, KeysAndExitAreDroppedWhilePaginatingAndWorkAfterwards) {

@@ -42,13 +42,18 @@ TEST(Startup, TheBareReaderStartsReportsNoBookAndShutsDownInOrder) {
   EXPECT_TRUE(test::FileExists(program.Path("Vireo.ini")));
 }
 
+// Once running, and while the whole Bible is still being loaded and paginated.
 TEST(Startup, TerminationAsksTheReaderToQuitAsExitDoes) {
-  test::ProgramFolder program;
-  const auto result = test::Run(
-      "sh -c '" + program.Path("Vireo") + " & pid=$!; sleep 1.5; kill -TERM $pid; wait $pid'",
-      test::Unattended(program.folder()), program.folder());
-  EXPECT_EQ(result.status, 0) << result.err;
-  EXPECT_THAT(program.Log(), HasSubstr("Shutdown\r\n"));
+  for (const auto& [book, delay] : {std::pair{"Vireo", "1.5"}, std::pair{"Bible", "0.3"}}) {
+    test::ProgramFolder program;
+    std::filesystem::copy_file(test::BinFolder() + "/Bible", program.Path("Bible"));
+    const auto result = test::RunWithin(60,
+                                        "sh -c '" + program.Path(book) + " & pid=$!; sleep " +
+                                            delay + "; kill -TERM $pid; wait $pid'",
+                                        test::Unattended(program.folder()), program.folder());
+    EXPECT_EQ(result.status, 0) << book << result.err;
+    EXPECT_THAT(program.Log(), HasSubstr("Shutdown\r\n")) << book;
+  }
 }
 
 TEST(Startup, WithoutTheHelperLibraryTheReaderEndsBeforeAnyWindow) {
