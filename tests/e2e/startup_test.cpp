@@ -42,14 +42,16 @@ TEST(Startup, TheBareReaderStartsReportsNoBookAndShutsDownInOrder) {
   EXPECT_TRUE(test::FileExists(program.Path("Vireo.ini")));
 }
 
-// Once running, and while the whole Bible is still being loaded and paginated.
+// Once running, and while the whole Bible is still being loaded and paginated
+// (the log is begun early in the start-up sequence).
 TEST(Startup, TerminationAsksTheReaderToQuitAsExitDoes) {
-  for (const auto& [book, delay] : {std::pair{"Vireo", "1.5"}, std::pair{"Bible", "0.3"}}) {
+  for (const auto& [book, delay] : {std::pair{"Vireo", "1"}, std::pair{"Bible", "0"}}) {
     test::ProgramFolder program;
     std::filesystem::copy_file(test::BinFolder() + "/Bible", program.Path("Bible"));
+    const std::string started = "until [ -s " + program.Path("log.txt") + " ]; do sleep 0.01; done";
     const auto result = test::RunWithin(60,
-                                        "sh -c '" + program.Path(book) + " & pid=$!; sleep " +
-                                            delay + "; kill -TERM $pid; wait $pid'",
+                                        "sh -c '" + program.Path(book) + " & pid=$!; " + started +
+                                            "; sleep " + delay + "; kill -TERM $pid; wait $pid'",
                                         test::Unattended(program.folder()), program.folder());
     EXPECT_EQ(result.status, 0) << book << result.err;
     EXPECT_THAT(program.Log(), HasSubstr("Shutdown\r\n")) << book;
