@@ -100,8 +100,9 @@ class FakeUser : public UserInteraction {
   bool yes = false;
 };
 
-// An ebook file at path holding text (Windows-1252).
+// An ebook file at path (its folder made if need be) holding text (Windows-1252).
 inline void WriteEbook(const std::string& path, const std::string& text) {
+  std::filesystem::create_directories(std::filesystem::path(path).parent_path());
   WriteFile(path, EbookFile("stub program", PackBody(PackableText(text, TextEncoding::kWindows1252),
                                                      "Author", "Title")));
 }

@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "app/fake_window.h"
 #include "app/main_window.h"
 #include "book/book_maker.h"
 #include "prefs/settings_get_set.h"
@@ -36,37 +37,8 @@ inline std::string SampleProse(int paragraphs) {
   return text;
 }
 
-// Answers every box with `answer` (else the default) and `yes`, keeping what was asked.
-class FakeUser : public UserInteraction {
- public:
-  void ShowMessage(std::string_view text, std::string_view) override {
-    messages.emplace_back(text);
-  }
-  std::optional<std::string> AskText(std::string_view prompt, std::string_view,
-                                     std::string_view default_text) override {
-    messages.emplace_back(prompt);
-    return answer ? answer : std::optional<std::string>(std::string(default_text));
-  }
-  bool AskYesNo(std::string_view question, std::string_view) override {
-    messages.emplace_back(question);
-    return yes;
-  }
-
-  std::vector<std::string> messages;
-  std::optional<std::string> answer;
-  bool yes = false;
-};
-
 // Page turns without the sweep, for tests that only care where they land.
 inline constexpr const char* kInstant = "INSTANTPAGETURN,True\r\n";
-
-// An ebook at path (its folder made if need be) holding text.
-inline void WriteEbook(const std::string& path, const std::string& text) {
-  std::filesystem::create_directories(std::filesystem::path(path).parent_path());
-  const std::string body =
-      PackBody(PackableText(text, TextEncoding::kWindows1252), "Author", "Title");
-  WriteFile(path, EbookFile("stub program", body));
-}
 
 // The real main window, offscreen, in its own program folder with an ebook of `text`.
 class ReaderWindow {
