@@ -54,6 +54,7 @@ class BookCanvasWidget : public QWidget, public PageBuffers {
   void SetLineMarker(int frame, double top, double bottom) override;
   TwipsSize LanguageListSize() const override;
   void PlaceLanguageList(const LanguageListPlacement& placement) override;
+  void SetLanguageListVisible(bool visible) override;
 
   const BookViewLayout& layout() const { return layout_; }
   // The box's buffer with all drawing on it finished.
@@ -64,7 +65,6 @@ class BookCanvasWidget : public QWidget, public PageBuffers {
   bool BoxVisible(int box) const { return boxes_[box].visible; }
   // The lamp shape the status lamp shows on (the control bar's Shape1).
   void SetLampWidget(LampWidget* lamp) { lamp_ = lamp; }
-  void SetLanguageListVisible(bool visible);
 
   // The page box under a point of the widget (0 or 1), or nullopt; position
   // receives the point in twips relative to that page.

@@ -38,7 +38,7 @@ void BookLoader::OpenBook(const std::string& path) {
     session_.ReadBookmark();
     LogAction("Reindexing file");
     session_.ReindexFile(true);
-    context_.view.SetLanguageListVisible(false);
+    context_.buffers.SetLanguageListVisible(false);
   });
 }
 

@@ -34,7 +34,6 @@ class HeadlessWindowView : public MainWindowView, public PageChooser {
   void SetBarLabel(BarLabel label, std::string_view text, uint32_t) override {
     labels[label] = text;
   }
-  void SetLanguageListVisible(bool) override {}
   void SetMenuTick(std::string_view item, bool ticked) override {
     ticks[std::string(item)] = ticked;
   }

@@ -312,7 +312,6 @@ void MainWindow::SetBarLabel(BarLabel label, std::string_view text, uint32_t col
   control->setPalette(palette);
 }
 
-void MainWindow::SetLanguageListVisible(bool visible) { canvas_->SetLanguageListVisible(visible); }
 
 // VIREO_TIMING=1: each milestone is written to standard error with the wall
 // clock in milliseconds since the epoch, so that a script that noted when it

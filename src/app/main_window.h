@@ -52,7 +52,6 @@ class MainWindow : public QMainWindow, public MainWindowView {
   void SetState(WindowState state) override;
   void SetBarVisible(bool visible) override;
   void SetBarLabel(BarLabel label, std::string_view text, uint32_t colour) override;
-  void SetLanguageListVisible(bool visible) override;
   void SetMenuTick(std::string_view item, bool ticked) override;
   void SetMenuEnabled(std::string_view item, bool enabled) override;
   void ShowContextMenu() override;

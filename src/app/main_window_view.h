@@ -63,8 +63,6 @@ class MainWindowView : public ProgressDisplay {
   // The control bar: shown or hidden, and the labels on it.
   virtual void SetBarVisible(bool visible) = 0;
   virtual void SetBarLabel(BarLabel label, std::string_view text, uint32_t colour) = 0;
-  // The language list beside the title page's hints, shown or hidden.
-  virtual void SetLanguageListVisible(bool visible) = 0;
   // Menu items by name ("mnuJustified" ...): ticks and enabled state.
   virtual void SetMenuTick(std::string_view item, bool ticked) = 0;
   virtual void SetMenuEnabled(std::string_view item, bool enabled) = 0;

@@ -70,9 +70,11 @@ class PageBuffers {
   // twips from the page's top.
   virtual void SetLineMarker(int frame, double top, double bottom) = 0;
 
-  // The language list beside the title page's hints.
+  // The language list beside the title page's hints: its size, its place
+  // and whether it is shown.
   virtual TwipsSize LanguageListSize() const = 0;
   virtual void PlaceLanguageList(const LanguageListPlacement& placement) = 0;
+  virtual void SetLanguageListVisible(bool visible) = 0;
 };
 
 }  // namespace vireo

@@ -50,6 +50,7 @@ class FakePageBuffers : public PageBuffers {
   }
   TwipsSize LanguageListSize() const override { return {1650, 540}; }
   void PlaceLanguageList(const LanguageListPlacement&) override {}
+  void SetLanguageListVisible(bool) override {}
 
   // Everything drawn on a box, its runs joined by blanks.
   std::string Text(int box) const {

@@ -45,6 +45,7 @@ class FakeBuffers : public PageBuffers {
   void SetLineMarker(int, double, double) override {}
   TwipsSize LanguageListSize() const override { return {1500, 1200}; }
   void PlaceLanguageList(const LanguageListPlacement& where) override { placement = where; }
+  void SetLanguageListVisible(bool) override {}
 
   std::array<test::FakeSurface, kBoxCount> boxes;
   std::vector<std::string> calls;
