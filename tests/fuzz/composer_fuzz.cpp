@@ -3,7 +3,6 @@
 // term), and on small pages the very lines and pictures of the composer's
 // rules written out literally.
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
@@ -47,29 +46,16 @@ class Recorder : public vireo::PrintPageObserver {
   std::vector<std::pair<int, size_t>> images;
 };
 
-uint8_t Byte(const uint8_t*& data, size_t& size) {
-  if (size == 0) return 0;
-  --size;
-  return *data++;
-}
+using vireo::fuzz::TakeByte;
 
 // Whole, fractional, partly zero (so that prefixes fit the line exactly over
 // several lengths) or partly negative widths.
 clsFontMetrics Tables(uint32_t seed, uint8_t mode) {
-  clsFontMetrics metrics;
-  for (int style = 0; style < 4; ++style) {
-    std::array<double, clsFontMetrics::kTableSize> table;
-    for (double& width : table) {
-      seed ^= seed << 13;
-      seed ^= seed >> 17;
-      seed ^= seed << 5;
-      const double widths[] = {10.0 * (1 + seed % 8), (seed % 3000) / 7.0, (seed % 3) * 50.0,
-                               static_cast<double>(seed % 400) - 40};
-      width = widths[mode % 4];
-    }
-    metrics.SetTable(style & 1, style & 2, table);
-  }
-  return metrics;
+  return vireo::fuzz::SeededTables(seed, [mode](uint32_t r) {
+    const double widths[] = {10.0 * (1 + r % 8), (r % 3000) / 7.0, (r % 3) * 50.0,
+                             static_cast<double>(r % 400) - 40};
+    return widths[mode % 4];
+  });
 }
 
 void Check(bool condition, const char* what) {
@@ -88,15 +74,16 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   if (size > 50000) return 0;
-  const uint8_t flags = Byte(data, size);
+  const uint8_t flags = TakeByte(data, size);
   PageSettings settings;
   settings.bold = flags & 1;
   settings.italic = flags & 2;
-  settings.lines_per_page = Byte(data, size) % 40;
+  settings.lines_per_page = TakeByte(data, size) % 40;
   // Multiples of 10 meet whole widths exactly; the third of them does not.
-  settings.line_width = (Byte(data, size) << 4 | Byte(data, size)) * ((flags & 4) ? 10 : 10 / 3.0);
+  settings.line_width =
+      (TakeByte(data, size) << 4 | TakeByte(data, size)) * ((flags & 4) ? 10 : 10 / 3.0);
   uint32_t seed = 1;
-  for (int i = 0; i < 4; ++i) seed = seed * 131 + Byte(data, size);
+  for (int i = 0; i < 4; ++i) seed = seed * 131 + TakeByte(data, size);
   const clsFontMetrics metrics = Tables(seed | 1, flags >> 3);
   FuzzImages images(flags >> 5);
   settings.page_text.assign(reinterpret_cast<const char*>(data), size);
