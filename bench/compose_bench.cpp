@@ -92,12 +92,17 @@ std::string PageOfProse() {
   return text;
 }
 
-void BM_ComposeOnePage(benchmark::State& state) {
+clsFontMetrics SerifMetrics() {
   clsFontMetrics metrics;
   metrics.SetTable(false, false, SerifWidths(1.0));
   metrics.SetTable(true, false, SerifWidths(1.1));
   metrics.SetTable(false, true, SerifWidths(0.95));
   metrics.SetTable(true, true, SerifWidths(1.05));
+  return metrics;
+}
+
+void BM_ComposeOnePage(benchmark::State& state) {
+  const clsFontMetrics metrics = SerifMetrics();
   MeasuringSurface surface(metrics);
   NoPump pump;
   clsPrintPage composer(pump);
@@ -124,6 +129,33 @@ BENCHMARK(BM_ComposeOnePage)
     ->Args({0, 0})
     ->Args({1, 0})
     ->Args({1, 1})
+    ->Unit(benchmark::kMicrosecond);
+
+// A page whose text is one word without a blank of range(0) characters (as
+// the last page of a book made of one long run is): the page fills with
+// pieces of it, each cut off the rest in one pass over the piece.
+void BM_ComposeLongWord(benchmark::State& state) {
+  const clsFontMetrics metrics = SerifMetrics();
+  MeasuringSurface surface(metrics);
+  NoPump pump;
+  clsPrintPage composer(pump);
+
+  PageSettings settings;
+  settings.page_text = std::string(static_cast<size_t>(state.range(0)), 'a');
+  settings.line_width = 5200;
+  settings.lines_per_page = 40;
+  for (auto _ : state) {
+    composer.DisplayPage(settings, surface, metrics);
+    benchmark::DoNotOptimize(surface.CurrentY());
+  }
+  state.SetBytesProcessed(state.iterations() * state.range(0));
+  state.counters["lines"] = static_cast<double>(composer.lines().size());
+}
+BENCHMARK(BM_ComposeLongWord)
+    ->ArgName("characters")
+    ->Arg(64 << 10)
+    ->Arg(256 << 10)
+    ->Arg(1 << 20)
     ->Unit(benchmark::kMicrosecond);
 
 }  // namespace

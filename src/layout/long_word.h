@@ -18,12 +18,14 @@ struct LongWordFit {
 };
 
 // The first piece of a word wider than the line: shrink from the full length
-// while the prefix is wider than the line (never below one character), then
-// grow while it is narrower. Unless a prefix fits exactly, the piece thus ends
-// one character past the longest fitting prefix and overhangs the line.
-// table is indexed by byte. With monotone widths (none negative) one forward
-// pass decides; otherwise every prefix width is computed into scratch.
+// shrink_step characters at a time while the prefix is wider than the line
+// (never below one character), then grow one at a time while it is narrower.
+// Unless a prefix fits exactly, the piece thus ends one character past the
+// longest fitting prefix and overhangs the line. table is indexed by byte.
+// With monotone widths (none negative) one forward pass over the piece
+// decides, whatever the step; otherwise every prefix width is computed into
+// scratch.
 LongWordFit FitLongWord(const double* table, std::string_view word, double line_width,
-                        bool monotone, std::vector<double>& scratch);
+                        bool monotone, std::vector<double>& scratch, size_t shrink_step = 1);
 
 }  // namespace vireo

@@ -259,8 +259,22 @@ bool PaginationPass::HoldsImage() const {
 // Step 3: blank lines for the image, on this page or at the top of the next,
 // inserted after the placeholder; the placeholder itself then counts as an
 // empty word. A placeholder the image store does not know stays text.
+int32_t PaginationPass::WordImageNumber() {
+  if (!from_leftover_ || word_.zero) return ImageNumber(View(word_));
+  // Every piece's rest runs to the end of the split word, so the number after
+  // a given "=" is the same for all the pieces before it.
+  const size_t end = word_.begin + word_.length;
+  if (split_equals_ == kNone || split_equals_ < word_.begin) {
+    const size_t equals = text_.find('=', word_.begin);
+    if (equals == std::string::npos || equals >= end) return 0;
+    split_equals_ = equals;
+    split_image_number_ = ImageNumber(std::string_view(text_).substr(equals, end - equals));
+  }
+  return split_equals_ < end ? split_image_number_ : 0;
+}
+
 void PaginationPass::PlaceImage() {
-  const int32_t number = ImageNumber(View(word_));
+  const int32_t number = WordImageNumber();
   std::optional<double> height;
   if (owner_.image_heights_) height = owner_.image_heights_(number);
   owner_.Yield();
@@ -290,6 +304,7 @@ void PaginationPass::PlaceImage() {
 void PaginationPass::AddLines(int64_t position, int count) {
   const bool changes = owner_.InsertAllowed() && position >= 1;
   const auto old_size = static_cast<int64_t>(text_.size());
+  split_equals_ = kNone;
   owner_.AddLines(text_, static_cast<int32_t>(position), count);
   if (changes) {
     cursor_.TextChanged(position, count < 1 ? 0 : 3 * static_cast<int64_t>(count), old_size);

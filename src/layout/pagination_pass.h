@@ -57,6 +57,7 @@ class PaginationPass {
   void TakeWordFromText();
   void InspectWord();
   bool HoldsImage() const;
+  int32_t WordImageNumber();
   void PlaceImage();
   void MeasureWord();
   void SplitLongWord();
@@ -97,6 +98,11 @@ class PaginationPass {
   // whole word, and of the start of "[IMG=" (SIZE_MAX when absent).
   std::array<size_t, kByteClassCount> split_last_{};
   size_t split_last_image_ = SIZE_MAX;
+  // The first "=" of the piece's rest and the image number after it, found
+  // once for all the pieces before it (SIZE_MAX: not yet; a text change
+  // forgets it).
+  size_t split_equals_ = SIZE_MAX;
+  int32_t split_image_number_ = 0;
 
   bool hyphen_ = false;
   bool end_of_text_ = false;

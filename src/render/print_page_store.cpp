@@ -3,11 +3,15 @@
 // markers deleted from words, pictures announced, long words split, words
 // measured with their actual delimiter).
 
-#include <array>
+#include <optional>
+#include <vector>
 
 #include "layout/font_metrics.h"
+#include "layout/long_word.h"
+#include "layout/word_scan.h"
 #include "render/print_page.h"
 #include "render/print_page_text.h"
+#include "render/split_word.h"
 #include "support/error_trap.h"
 #include "support/text_helpers.h"
 
@@ -16,11 +20,8 @@ namespace {
 
 constexpr std::string_view kModule = "clsPrintPage";
 constexpr std::string_view kIndent = "   ";
-// Only a word of more than this many characters is ever split.
-constexpr size_t kLongWordLength = 20;
 // A long word shrinks by this many characters at a time before it grows back.
 constexpr size_t kShrinkStep = 25;
-constexpr std::array<std::string_view, 3> kPageNumberTags = {"[npn=r]", "[npn=n]", "[npn=d]"};
 constexpr char kLineFeed = '\n';
 constexpr char kPageBreak = '\x86';
 
@@ -90,23 +91,18 @@ class PageLineComposer {
         text_(settings.page_text),
         bold_(settings.bold),
         italic_(settings.italic),
+        space_at_(text_.find(' ')),
         hyphen_at_(text_.find('-')) {}
 
   void Run() {
     do {
-      std::string word = NextWord();
-      const WordMarks marks(word);
-      Inspect(marks);
-      Prepare(word, marks);
-      if (word.size() > kLongWordLength && Width(word) > settings_.line_width) SplitLongWord(word);
+      const std::string word = split_.pending() ? NextPiece() : NextTextWord();
       LayOut(word);
       // The closing word itself is still measured in the style; the codes
       // count as they stand in the word laid out.
-      if (marks.bold_off || marks.italic_off) {
-        const WordMarks laid_out(word);
-        if (laid_out.bold_off) bold_ = false;
-        if (laid_out.italic_off) italic_ = false;
-      }
+      const WordMarks laid_out(word);
+      if (laid_out.bold_off) bold_ = false;
+      if (laid_out.italic_off) italic_ = false;
     } while (!end_of_text_);
   }
 
@@ -118,22 +114,34 @@ class PageLineComposer {
     return width;
   }
 
-  // The next word: a pending piece of a split word, else the text up to the
-  // next space, or up to a hyphen before it (any hyphen, also the first
-  // character); the rest of the text when no space is left.
+  // The next word of the text, its codes read and applied, split when long.
+  std::string NextTextWord() {
+    std::string word = NextWord();
+    Process(word);
+    return word;
+  }
+
+  void Process(std::string& word) {
+    const WordMarks marks(word);
+    Inspect(marks);
+    Prepare(word, marks);
+    if (const std::optional<size_t> piece = LongWordPiece(word)) {
+      split_.Start(std::move(word));
+      word = CutPiece(*piece);
+    }
+  }
+
+  // The text up to the next space, or up to a hyphen before it (any hyphen,
+  // also the first character); the rest of the text when no space is left.
+  // Both delimiters are remembered, so the text is scanned once.
   std::string NextWord() {
-    if (!leftover_.empty()) {
-      std::string word = std::move(leftover_);
-      leftover_.clear();
-      hyphen_ = false;
-      if (!found_space_) end_of_text_ = true;
-      return word;
+    if (space_at_ != std::string_view::npos && space_at_ < scan_) {
+      space_at_ = text_.find(' ', scan_);
     }
-    const size_t space = text_.find(' ', scan_);
     if (hyphen_at_ != std::string_view::npos && hyphen_at_ < scan_) {
-      hyphen_at_ = text_.find('-', scan_);  // remembered, so the text is scanned once
+      hyphen_at_ = text_.find('-', scan_);
     }
-    found_space_ = space != std::string_view::npos;
+    found_space_ = space_at_ != std::string_view::npos;
     if (!found_space_) {
       end_of_text_ = true;
       newline_ = true;
@@ -142,10 +150,37 @@ class PageLineComposer {
       scan_ = text_.size();
       return word;
     }
-    hyphen_ = hyphen_at_ < space;
-    const size_t end = hyphen_ ? hyphen_at_ : space;
+    hyphen_ = hyphen_at_ < space_at_;
+    const size_t end = hyphen_ ? hyphen_at_ : space_at_;
     std::string word(text_.substr(scan_, end - scan_));
     scan_ = end + 1;
+    return word;
+  }
+
+  // The next piece of a split word: its rest is taken as a word, as if it
+  // stood in the text, but only its own piece is copied and measured. The
+  // rest holds no line feed or page break (deleted before the split).
+  std::string NextPiece() {
+    hyphen_ = false;
+    if (!found_space_) end_of_text_ = true;
+    if (split_.RestHoldsPageNumberTag()) {
+      // Deleting tags made new ones: the rest changes, so take it whole.
+      std::string word(split_.Rest());
+      split_.Clear();
+      Process(word);
+      return word;
+    }
+    ends_paragraph_ = false;
+    if (split_.RestHoldsBoldOn()) bold_ = true;
+    if (split_.RestHoldsItalicOn()) italic_ = true;
+    if (split_.RestHoldsImage() && page_.images_ != nullptr &&
+        PlaceImage(split_.NumberAfterEquals(LeadingInteger))) {
+      split_.Clear();
+      return std::string(ParaMark());
+    }
+    if (const std::optional<size_t> piece = LongWordPiece(split_.Rest())) return CutPiece(*piece);
+    std::string word(split_.Rest());
+    split_.Clear();
     return word;
   }
 
@@ -164,33 +199,42 @@ class PageLineComposer {
     if (!marks.bracket) return;
     for (const std::string_view tag : kPageNumberTags) EraseAll(word, tag);
     if (word.find("[IMG=") == std::string::npos || page_.images_ == nullptr) return;
-    const int number = LeadingInteger(std::string_view(word).substr(word.find('=') + 1));
-    if (number > page_.images_->ImageCount()) return;
-    const std::optional<double> image_width = page_.images_->ImageWidth(number);
-    if (!image_width) return;
-    page_.images_->SetImageLeft((settings_.line_width - *image_width) / 2);
-    page_.RaiseAddImage(settings_.page_side, number, settings_.left);
-    word = ParaMark();
+    if (PlaceImage(LeadingInteger(std::string_view(word).substr(word.find('=') + 1)))) {
+      word = ParaMark();
+    }
   }
 
-  // Cuts the shortest prefix at least as wide as the line off a long word:
-  // shrink 25 characters at a time until it fits, then grow one at a time.
-  void SplitLongWord(std::string& word) {
-    leftover_ = word;
-    size_t length = word.size();
-    while (length > 1 &&
-           Width(std::string_view(leftover_).substr(0, length)) > settings_.line_width) {
-      length = length > kShrinkStep ? length - kShrinkStep : 1;
+  // Announces picture number when the store holds it; false when it does not.
+  bool PlaceImage(int number) {
+    if (number > page_.images_->ImageCount()) return false;
+    const std::optional<double> image_width = page_.images_->ImageWidth(number);
+    if (!image_width) return false;
+    page_.images_->SetImageLeft((settings_.line_width - *image_width) / 2);
+    page_.RaiseAddImage(settings_.page_side, number, settings_.left);
+    return true;
+  }
+
+  // The length of the first piece of a long word wider than the line: the
+  // shortest prefix at least as wide as the line, as found by shrinking 25
+  // characters at a time and growing one at a time; nullopt for a word that
+  // is not split.
+  std::optional<size_t> LongWordPiece(std::string_view word) {
+    if (word.size() <= kLongWordLength) return std::nullopt;
+    if (!tables_loaded_) {
+      tables_.Load(metrics_, 0);
+      tables_loaded_ = true;
     }
-    while (length < leftover_.size() &&
-           Width(std::string_view(leftover_).substr(0, length)) < settings_.line_width) {
-      ++length;
-    }
-    word = leftover_.substr(0, length);
-    // As in the paginator, a word that needs all its characters leaves "0".
-    leftover_ = length < leftover_.size() ? leftover_.substr(length) : "0";
+    const LongWordFit fit = FitLongWord(tables_.For(bold_, italic_), word, settings_.line_width,
+                                        tables_.monotone(), scratch_, kShrinkStep);
+    if (!fit.wider) return std::nullopt;
+    return fit.piece;
+  }
+
+  // Cuts the next piece off the split word; the rest is still to be laid out.
+  std::string CutPiece(size_t length) {
     end_of_text_ = false;
     newline_ = true;
+    return split_.Cut(length);
   }
 
   void LayOut(const std::string& word) {
@@ -241,8 +285,12 @@ class PageLineComposer {
   bool bold_;
   bool italic_;
   size_t scan_ = 0;
+  size_t space_at_;
   size_t hyphen_at_;
-  std::string leftover_;
+  SplitWord split_;
+  StyleTables tables_;
+  bool tables_loaded_ = false;
+  std::vector<double> scratch_;
   bool found_space_ = true;
   bool hyphen_ = false;
   bool end_of_text_ = false;

@@ -1,6 +1,7 @@
 #include "support/logging.h"
 
 #include <cstdio>
+#include <unordered_map>
 
 #include "support/version.h"
 
@@ -13,10 +14,22 @@
 namespace vireo {
 namespace {
 
+// How often one entry (text, procedure and module) was recorded this run,
+// and how many of its repeats the next listing still has to count.
+struct Repeats {
+  int64_t recorded = 0;
+  int64_t unlisted = 0;
+};
+
+// Distinct entries followed for their repeats; beyond this many, new
+// entries are recorded without counting.
+constexpr size_t kFollowedEntries = 1000;
+
 struct LogState {
   std::string folder;
   bool disabled = false;
   ActionRing ring;
+  std::unordered_map<std::string, Repeats> repeats;
   std::function<std::time_t()> clock = [] { return std::time(nullptr); };
 };
 
@@ -52,17 +65,67 @@ std::string Stamped(std::string_view text) {
   return line;
 }
 
-void WriteLines(const std::string& lines, const char* mode) {
+// A log that has grown past the limit becomes "log.txt.old", replacing the
+// older copy, so that the two never hold much more than twice the limit.
+void RotateWhenLarge(const std::string& path, long size) {
+  if (size <= kLogRotateBytes) return;
+  const std::string old = path + ".old";
+  std::remove(old.c_str());
+  std::rename(path.c_str(), old.c_str());
+}
+
+long FileSize(const std::string& path) {
+  FILE* file = std::fopen(path.c_str(), "rb");
+  if (file == nullptr) return 0;
+  std::fseek(file, 0, SEEK_END);
+  const long size = std::ftell(file);
+  std::fclose(file);
+  return size;
+}
+
+void WriteLines(const std::string& lines, LogFile mode) {
   const std::string path = LogFilePath(State().folder);
-  if (FILE* file = std::fopen(path.c_str(), mode)) {
-    std::fwrite(lines.data(), 1, lines.size(), file);
-    std::fclose(file);
+  if (mode == LogFile::kNew) RotateWhenLarge(path, FileSize(path));
+  FILE* file = std::fopen(path.c_str(), mode == LogFile::kNew ? "wb" : "ab");
+  if (file == nullptr) return;
+  std::fwrite(lines.data(), 1, lines.size(), file);
+  const long size = std::ftell(file);
+  std::fclose(file);
+  RotateWhenLarge(path, size);
+}
+
+std::string Entry(std::string text, std::string_view procedure, std::string_view module) {
+  if (!procedure.empty()) (text += " in ") += procedure;
+  if (!module.empty()) (text += " of module ") += module;
+  return text;
+}
+
+// Counts entry; false when it has been recorded often enough this run.
+bool Recordable(const std::string& entry) {
+  auto& repeats = State().repeats;
+  auto found = repeats.find(entry);
+  if (found == repeats.end()) {
+    if (repeats.size() < kFollowedEntries) repeats.emplace(entry, Repeats{1, 0});
+    return true;
+  }
+  if (found->second.recorded < kRepeatsRecorded) {
+    ++found->second.recorded;
+    return true;
+  }
+  ++found->second.unlisted;
+  return false;
+}
+
+// One line per entry whose repeats were left out since the last listing.
+void ListRepeats() {
+  for (auto& [entry, repeats] : State().repeats) {
+    if (repeats.unlisted == 0) continue;
+    LogAction(" >> repeated " + std::to_string(repeats.unlisted) + " more times: " + entry);
+    repeats.unlisted = 0;
   }
 }
 
-void Record(std::string entry, std::string_view procedure, std::string_view module) {
-  if (!procedure.empty()) (entry += " in ") += procedure;
-  if (!module.empty()) (entry += " of module ") += module;
+void Record(std::string entry) {
   ActionRing& ring = State().ring;
   ring.text[ring.position] = std::move(entry);
   ring.stamp[ring.position] = Format("%H:%M:%S");
@@ -82,7 +145,10 @@ void SetLoggingDisabled(bool disabled) { State().disabled = disabled; }
 bool LoggingDisabled() { return State().disabled; }
 void SetLogClock(std::function<std::time_t()> clock) { State().clock = std::move(clock); }
 const ActionRing& Actions() { return State().ring; }
-void ClearActions() { State().ring = ActionRing{}; }
+void ClearActions() {
+  State().ring = ActionRing{};
+  State().repeats.clear();
+}
 
 void LogAction(std::string_view text, LogFile file) {
   if (State().disabled || State().folder.empty()) return;
@@ -90,9 +156,9 @@ void LogAction(std::string_view text, LogFile file) {
     if (file == LogFile::kNew) {
       std::string header = Stamped("Log file created " + Format("%Y-%m-%d"));
       header += Stamped("Operating System: " + FOSName());
-      WriteLines(header + Stamped(text), "wb");
+      WriteLines(header + Stamped(text), LogFile::kNew);
     } else {
-      WriteLines(Stamped(text), "ab");
+      WriteLines(Stamped(text), LogFile::kAppend);
     }
   } catch (...) {
     // A log line that cannot be built is dropped.
@@ -102,12 +168,14 @@ void LogAction(std::string_view text, LogFile file) {
 void LogProc(std::string_view text, std::string_view procedure, std::string_view module) {
   if (State().disabled) return;
   try {
+    std::string entry = Entry(std::string(text), procedure, module);
+    if (!Recordable(entry)) return;
     ActionRing& ring = State().ring;
     if (++ring.position > kActionRingSize) {
       ListActions();
       ring.position = 1;
     }
-    Record(std::string(text), procedure, module);
+    Record(std::move(entry));
   } catch (...) {
   }
 }
@@ -117,7 +185,7 @@ void LogDebug(std::string_view text, std::string_view procedure, std::string_vie
   try {
     ActionRing& ring = State().ring;
     if (++ring.position > kActionRingSize) ring.position = 1;
-    Record("DBG: " + std::string(text), procedure, module);
+    Record(Entry("DBG: " + std::string(text), procedure, module));
   } catch (...) {
   }
 }
@@ -135,6 +203,7 @@ void ListActions() {
     };
     list(ring.position + 1, kActionRingSize);
     list(1, ring.position - 1);
+    ListRepeats();
     LogAction("End of actions list");
   } catch (...) {
   }

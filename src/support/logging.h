@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <ctime>
 #include <functional>
 #include <string>
@@ -25,19 +26,31 @@ const std::string& LogFolder();
 void SetLoggingDisabled(bool disabled);
 bool LoggingDisabled();
 
+// A log longer than this many bytes is renamed "log.txt.old" (replacing an
+// older one) once the line that passed the limit is written, and before a new
+// log is created; the next line starts a new "log.txt".
+inline constexpr long kLogRotateBytes = 4L << 20;
+
 // Appends "HH:MM:SS" + blanks to column 15 + text + CR LF to the log. With
 // LogFile::kNew the file is first created afresh with its two header lines.
 void LogAction(std::string_view text, LogFile file = LogFile::kAppend);
 
+// An entry recorded this many times in a run is not recorded again; the next
+// listing of the ring says how many more times it came.
+inline constexpr int64_t kRepeatsRecorded = 3;
+
 // Records "text in procedure of module module" in the action ring; the 41st
 // entry first writes the previous 40 to the log and starts again at slot 1.
+// Repeats past kRepeatsRecorded are only counted.
 void LogProc(std::string_view text, std::string_view procedure, std::string_view module);
 
 // Records "DBG: text ..." in the ring; wraps round without listing.
 void LogDebug(std::string_view text, std::string_view procedure, std::string_view module);
 
 // Writes the ring to the log between "Listing last 40 actions: " and
-// "End of actions list".
+// "End of actions list", then, for each entry whose repeats were not
+// recorded since the last listing, " >> repeated N more times: " and the
+// entry.
 void ListActions();
 
 inline constexpr int kActionRingSize = 40;
@@ -48,6 +61,7 @@ struct ActionRing {
   int position = 0;                                    // slot written last
 };
 const ActionRing& Actions();
+// Empties the ring and forgets the entries counted for repeats.
 void ClearActions();
 
 // The clock used for time stamps (tests fix it).

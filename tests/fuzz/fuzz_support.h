@@ -1,8 +1,12 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 
+#include "layout/font_metrics.h"
 #include "support/logging.h"
 #include "support/vhtml_library.h"
 
@@ -16,6 +20,31 @@ inline void StartUp() {
     std::abort();
   }
   SetLoggingDisabled(true);
+}
+
+// The next byte of the input; 0 once it is used up.
+inline uint8_t TakeByte(const uint8_t*& data, size_t& size) {
+  if (size == 0) return 0;
+  --size;
+  return *data++;
+}
+
+// Four width tables from a seed: width_of(r) gives each width from the next
+// number r of a xorshift sequence.
+template <typename WidthOf>
+clsFontMetrics SeededTables(uint32_t seed, WidthOf width_of) {
+  clsFontMetrics metrics;
+  for (int style = 0; style < 4; ++style) {
+    std::array<double, clsFontMetrics::kTableSize> table;
+    for (double& width : table) {
+      seed ^= seed << 13;
+      seed ^= seed >> 17;
+      seed ^= seed << 5;
+      width = width_of(seed);
+    }
+    metrics.SetTable(style & 1, style & 2, table);
+  }
+  return metrics;
 }
 
 }  // namespace vireo::fuzz

@@ -29,43 +29,31 @@ struct Input {
   int32_t reading_position = 1;
 };
 
-uint8_t Byte(const uint8_t*& data, size_t& size) {
-  if (size == 0) return 0;
-  --size;
-  return *data++;
-}
+using vireo::fuzz::TakeByte;
 
 // Tables from a seed: whole, fractional or partly zero and negative widths.
 clsFontMetrics Tables(uint32_t seed, uint8_t mode) {
-  clsFontMetrics metrics;
-  for (int style = 0; style < 4; ++style) {
-    std::array<double, clsFontMetrics::kTableSize> table;
-    for (double& width : table) {
-      seed ^= seed << 13;
-      seed ^= seed >> 17;
-      seed ^= seed << 5;
-      const double widths[] = {50.0 + seed % 150, (seed % 3000) / 7.0, (seed % 3) * 75.0,
-                               static_cast<double>(seed % 400) - 40};
-      width = widths[mode % 4];
-    }
-    metrics.SetTable(style & 1, style & 2, table);
-  }
-  return metrics;
+  return vireo::fuzz::SeededTables(seed, [mode](uint32_t r) {
+    const double widths[] = {50.0 + r % 150, (r % 3000) / 7.0, (r % 3) * 75.0,
+                             static_cast<double>(r % 400) - 40};
+    return widths[mode % 4];
+  });
 }
 
 Input Decode(const uint8_t* data, size_t size) {
   Input in;
-  const uint8_t flags = Byte(data, size);
+  const uint8_t flags = TakeByte(data, size);
   in.title_page = flags & 1;
   in.insert = (flags & 2) == 0;
-  in.lines_per_page = static_cast<int16_t>(static_cast<int8_t>(Byte(data, size)) % 40);
-  in.line_width = (Byte(data, size) << 8 | Byte(data, size)) * ((flags & 4) ? 1.0 : 1 / 3.0);
+  in.lines_per_page = static_cast<int16_t>(static_cast<int8_t>(TakeByte(data, size)) % 40);
+  in.line_width =
+      (TakeByte(data, size) << 8 | TakeByte(data, size)) * ((flags & 4) ? 1.0 : 1 / 3.0);
   static constexpr double kLineHeights[] = {100, 240, 0, 77.5};
-  in.line_height = kLineHeights[Byte(data, size) % 4];
-  in.image_height = Byte(data, size) * 10.0;
-  in.reading_position = Byte(data, size) << 8 | Byte(data, size);
+  in.line_height = kLineHeights[TakeByte(data, size) % 4];
+  in.image_height = TakeByte(data, size) * 10.0;
+  in.reading_position = TakeByte(data, size) << 8 | TakeByte(data, size);
   uint32_t seed = 1;
-  for (int i = 0; i < 4; ++i) seed = seed * 131 + Byte(data, size);
+  for (int i = 0; i < 4; ++i) seed = seed * 131 + TakeByte(data, size);
   in.metrics = Tables(seed | 1, flags >> 3);
   in.text.assign(reinterpret_cast<const char*>(data), size);
   return in;

@@ -85,6 +85,34 @@ TEST_F(LoggingTest, The41stEntryListsThePrevious40AndStartsAgainAtSlot1) {
   EXPECT_EQ(Actions().text[1], "entry 41");
 }
 
+TEST_F(LoggingTest, AnEntryRepeatedIsRecordedThreeTimesAndCountedOnceInTheNextListing) {
+  for (int i = 0; i < 10; ++i) LogProc("Overflow", "sub a(6)", "frmMain");
+  LogProc("other", "", "");
+  EXPECT_EQ(Actions().position, 4);
+  ListActions();
+  ListActions();
+  const std::string repeated =
+      " >> repeated 7 more times: Overflow in sub a(6) of module frmMain\r\n";
+  const std::string log = Log();
+  ASSERT_NE(log.find(repeated), std::string::npos) << log;
+  EXPECT_EQ(log.find(repeated), log.rfind(repeated)) << "counted once";
+}
+
+TEST_F(LoggingTest, ALogPastTheLimitBecomesTheOldCopyAndANewOneBegins) {
+  test::WriteFile(folder_.File("log.txt.old"), "older");
+  const auto limit = static_cast<size_t>(kLogRotateBytes);
+  test::WriteFile(folder_.File("log.txt"), std::string(limit, 'x'));
+  LogAction("one line more");
+  EXPECT_EQ(test::ReadFile(folder_.File("log.txt.old")),
+            std::string(limit, 'x') + "05:06:07      one line more\r\n");
+  LogAction("Startup", LogFile::kNew);
+  EXPECT_EQ(Log().find("Log file created "), 14u);
+  test::WriteFile(folder_.File("log.txt"), std::string(limit + 1, 'y'));
+  LogAction("Startup", LogFile::kNew);
+  EXPECT_EQ(test::ReadFile(folder_.File("log.txt.old")), std::string(limit + 1, 'y'));
+  EXPECT_EQ(Log().find("Log file created "), 14u);
+}
+
 TEST(FOSName, FollowsTheVersionTableWithItsGaps) {
   using P = OsVersionInfo::Platform;
   EXPECT_EQ(FOSName({P::kWindowsNt, 7, 3, ""}), "WINNT6+");

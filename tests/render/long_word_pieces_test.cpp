@@ -1,0 +1,108 @@
+// Pages holding long words, composed by clsPrintPage and by the composer's
+// rules written out literally: the same lines and pictures, including where a
+// prefix fits the line exactly over several lengths (characters of no width)
+// and where deleting tags makes new ones in the rest of a split word.
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <random>
+
+#include "fake_pump.h"
+#include "fake_surface.h"
+#include "layout/font_metrics.h"
+#include "literal_composer.h"
+#include "render/print_page.h"
+
+namespace vireo {
+namespace {
+
+// Pictures 0..4 exist.
+class Pictures : public ComposerImageStore {
+ public:
+  int ImageCount() const override { return 5; }
+  std::optional<double> ImageWidth(int number) const override {
+    return number >= 0 && number < 5 ? std::optional<double>(100) : std::nullopt;
+  }
+  void SetImageLeft(double) override {}
+};
+
+class Placed : public PrintPageObserver {
+ public:
+  void AddImage(int, int number, double, int line) override {
+    images.emplace_back(number, static_cast<size_t>(line));
+  }
+  std::vector<std::pair<int, size_t>> images;
+};
+
+// Widths 10 for every character but "z" and the style codes, which take no
+// room, so that many prefixes fit a line of a multiple of 10 exactly.
+clsFontMetrics WidthsWithZeros() {
+  clsFontMetrics metrics;
+  std::array<double, clsFontMetrics::kTableSize> widths;
+  for (int code = 1; code <= clsFontMetrics::kTableSize; ++code) {
+    const bool none = code == 'z' || (code >= 0x80 && code <= 0x88);
+    widths[code - 1] = none ? 0 : 10;
+  }
+  for (int style = 0; style < 4; ++style) metrics.SetTable(style & 1, style & 2, widths);
+  return metrics;
+}
+
+void ExpectAsTheLiteralRules(const std::string& text, double line_width) {
+  SCOPED_TRACE(testing::Message() << "width " << line_width << ": " << text);
+  const clsFontMetrics metrics = WidthsWithZeros();
+  PageSettings settings;
+  settings.page_text = text;
+  settings.line_width = line_width;
+  settings.lines_per_page = 40;
+  Pictures pictures;
+  const test::LiteralPage literal = test::LiteralComposer(settings, metrics, &pictures).Run();
+
+  test::RecordingPump pump;
+  test::FakeSurface surface;
+  clsPrintPage composer(pump);
+  Placed placed;
+  composer.SetImageStore(&pictures);
+  composer.SetObserver(&placed);
+  composer.DisplayPage(settings, surface, metrics);
+  EXPECT_EQ(composer.lines(), literal.lines);
+  EXPECT_EQ(placed.images, literal.images);
+}
+
+TEST(LongWordPieces, AreTheLiteralRulesPieces) {
+  const std::string zeros(30, 'z');
+  const struct {
+    std::string text;
+    double width;
+  } cases[] = {
+      // Exact fits over a run of characters of no width, wherever the shrink
+      // by 25 lands in it.
+      {std::string(20, 'a') + zeros + std::string(40, 'b') + " tail", 200},
+      {std::string(19, 'a') + zeros + std::string(41, 'b') + " tail", 200},
+      {std::string(23, 'a') + "z\x80z\x82" + std::string(77, 'b'), 230},
+      // The first character alone is wider than the line; a line of no width.
+      {std::string(60, 'w'), 5},
+      {zeros + std::string(30, 'c'), 0},
+      // A whole word as the piece leaves "0".
+      {std::string(20, 'a') + zeros + " next", 200},
+      // Tags made by deleting tags, pictures in the rest, and a number after
+      // the first "=" that only the rest sees.
+      {"[npn=[npn=r]r]" + std::string(40, 'd') + "[npn=[npn=n]n]" + std::string(40, 'e'), 200},
+      {std::string(40, 'f') + "[IMG=3]" + std::string(40, 'g'), 200},
+      {"=9" + std::string(40, 'h') + "=2[IMG=" + std::string(40, 'i'), 200},
+  };
+  for (const auto& c : cases) ExpectAsTheLiteralRules(c.text, c.width);
+
+  std::mt19937 random(12);
+  const std::string alphabet = "abzzzz-=[IMG=1]\x80\x81\x82\x83\x86\n";
+  for (int page = 0; page < 200; ++page) {
+    std::string text;
+    const size_t length = 20 + random() % 400;
+    for (size_t i = 0; i < length; ++i) text += alphabet[random() % alphabet.size()];
+    if (random() % 3 == 0) text += ' ';
+    ExpectAsTheLiteralRules(text, 10.0 * static_cast<double>(random() % 30));
+  }
+}
+
+}  // namespace
+}  // namespace vireo
