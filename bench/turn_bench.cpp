@@ -10,6 +10,7 @@
 #include <fstream>
 
 #include "app/book_canvas_widget.h"
+#include "app/control_bar_widget.h"
 #include "app/frm_main.h"
 #include "app/headless_window.h"
 #include "app/interaction_qt.h"
@@ -50,6 +51,9 @@ void BM_InstantTurnFromCache(benchmark::State& state) {
   QtMessagePump pump;
   HeadlessWindowView view;
   BookCanvasWidget canvas;
+  // The lamp repaints itself at every change, as on the window's control bar.
+  ControlBarWidget bar(&canvas);
+  canvas.SetLampWidget(bar.Shape1);
   frmMain reader(view, canvas, user, pump,
                  ProgramLocation{folder.string(), (folder / "Book").string()});
   reader.lifecycle().Form_Load();
