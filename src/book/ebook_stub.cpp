@@ -57,7 +57,16 @@ std::string StrippedCopy(const std::string& stub_path, const std::string& work_f
   if (stripped) bytes = ReadWholeFile(temporary);
   std::error_code ignored;
   std::filesystem::remove(temporary, ignored);
-  if (!stripped) throw RuntimeError(ErrorNumber::kPathFileAccess, "strip failed on " + stub_path);
+  if (!stripped) {
+    // strip needs room for a copy as large as the stub; without it the
+    // folder, not the stub, is at fault.
+    std::error_code unknown;
+    const auto space = std::filesystem::space(work_folder, unknown);
+    if (!unknown && space.available < std::filesystem::file_size(stub_path, unknown) && !unknown) {
+      throw RuntimeError(ErrorNumber::kDiskFull);
+    }
+    throw RuntimeError(ErrorNumber::kPathFileAccess, "strip failed on " + stub_path);
+  }
   return bytes;
 #endif
 }
