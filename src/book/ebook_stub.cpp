@@ -61,10 +61,9 @@ std::string StrippedCopy(const std::string& stub_path, const std::string& work_f
     // strip needs room for a copy as large as the stub; without it the
     // folder, not the stub, is at fault.
     std::error_code unknown;
-    const auto space = std::filesystem::space(work_folder, unknown);
-    if (!unknown && space.available < std::filesystem::file_size(stub_path, unknown) && !unknown) {
-      throw RuntimeError(ErrorNumber::kDiskFull);
-    }
+    const uintmax_t available = std::filesystem::space(work_folder, unknown).available;
+    const uintmax_t needed = unknown ? 0 : std::filesystem::file_size(stub_path, unknown);
+    if (!unknown && available < needed) throw RuntimeError(ErrorNumber::kDiskFull);
     throw RuntimeError(ErrorNumber::kPathFileAccess, "strip failed on " + stub_path);
   }
   return bytes;

@@ -19,6 +19,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 #include <span>
 #include <string>
 #include <string_view>
@@ -31,18 +32,30 @@ namespace {
 
 constexpr size_t kChunk = 64 * 1024;
 
-// A row of two or more characters, as a run of input bytes.
+// A row of two or more characters, as a run of input bytes (at most eight,
+// compared as one masked 64-bit load).
 struct RunRow {
   std::string run;
   char code;
+  uint64_t bytes = 0;
+  uint64_t mask = 0;
 };
 
 struct ContractionPlan {
-  std::vector<RunRow> rows;          // in table order; rows that can never match left out
-  std::array<char, 256> single{};    // what a byte that no run took becomes
+  std::vector<RunRow> rows;           // in table order; rows that can never match left out
+  std::array<char, 256> single{};     // what a byte that no run took becomes
   std::array<bool, 256> cut_after{};  // bytes in no run
-  std::array<std::vector<uint8_t>, 256> rows_starting_with;  // indices into rows
+  // The rows whose run starts with a pair of bytes (the pair read as a
+  // 16-bit value): indices into rows, from pair_begin[pair] to pair_begin[pair + 1].
+  std::vector<uint16_t> pair_begin;
+  std::vector<uint8_t> pair_rows;
 };
+
+uint16_t PairAt(const char* at) {
+  uint16_t pair;
+  std::memcpy(&pair, at, sizeof(pair));
+  return pair;
+}
 
 // The input byte that the current character c stands for after the
 // single-character rows so far (map), or -1 when none does.
@@ -87,11 +100,20 @@ ContractionPlan MakePlan() {
     }
   }
   plan.cut_after.fill(true);
+  std::vector<std::vector<uint8_t>> by_pair(65536);
   for (size_t index = 0; index < plan.rows.size(); ++index) {
-    const std::string& run = plan.rows[index].run;
-    for (char c : run) plan.cut_after[static_cast<uint8_t>(c)] = false;
-    plan.rows_starting_with[static_cast<uint8_t>(run[0])].push_back(static_cast<uint8_t>(index));
+    RunRow& row = plan.rows[index];
+    if (row.run.size() > sizeof(uint64_t)) throw "a word of the table is too long";
+    for (char c : row.run) plan.cut_after[static_cast<uint8_t>(c)] = false;
+    std::memcpy(&row.bytes, row.run.data(), row.run.size());
+    std::memset(&row.mask, 0xFF, row.run.size());
+    by_pair[PairAt(row.run.data())].push_back(static_cast<uint8_t>(index));
   }
+  for (const std::vector<uint8_t>& rows : by_pair) {
+    plan.pair_begin.push_back(static_cast<uint16_t>(plan.pair_rows.size()));
+    plan.pair_rows.insert(plan.pair_rows.end(), rows.begin(), rows.end());
+  }
+  plan.pair_begin.push_back(static_cast<uint16_t>(plan.pair_rows.size()));
   for (int byte = 0; byte < 256; ++byte) plan.single[byte] = static_cast<char>(map[byte]);
   return plan;
 }
@@ -106,60 +128,75 @@ class ChunkContractor {
  public:
   explicit ChunkContractor(const ContractionPlan& plan) : plan_(plan), found_(plan.rows.size()) {}
 
+  // chunk must be followed by kPadding zero bytes (no run holds a zero).
   void Contract(std::string_view chunk, std::string& out) {
     FindRuns(chunk);
     TakeRowByRow(chunk.size());
     Write(chunk, out);
   }
 
+  static constexpr size_t kPadding = sizeof(uint64_t);
+
  private:
   // Where each run occurs in chunk, per row, left to right.
   void FindRuns(std::string_view chunk) {
     for (std::vector<uint32_t>& positions : found_) positions.clear();
-    for (size_t at = 0; at < chunk.size(); ++at) {
-      for (uint8_t index : plan_.rows_starting_with[static_cast<uint8_t>(chunk[at])]) {
-        if (chunk.substr(at).starts_with(plan_.rows[index].run)) {
-          found_[index].push_back(static_cast<uint32_t>(at));
-        }
+    const char* data = chunk.data();
+    for (size_t at = 0; at + 1 < chunk.size(); ++at) {
+      const uint16_t pair = PairAt(data + at);
+      const size_t end = plan_.pair_begin[pair + 1u];
+      size_t candidate = plan_.pair_begin[pair];
+      if (candidate == end) continue;
+      uint64_t bytes;
+      std::memcpy(&bytes, data + at, sizeof(bytes));
+      for (; candidate < end; ++candidate) {
+        const uint8_t index = plan_.pair_rows[candidate];
+        const RunRow& row = plan_.rows[index];
+        if ((bytes & row.mask) == row.bytes) found_[index].push_back(static_cast<uint32_t>(at));
       }
     }
   }
 
   // Each row in table order takes its occurrences that touch nothing taken
-  // before and do not overlap its own previous match.
+  // before and do not overlap its own previous match. marks_ holds 1 + the
+  // row at the start of a match, kInside at its other bytes.
   void TakeRowByRow(size_t size) {
-    taken_.assign(size, 0);
-    covered_.assign(size, 0);
+    marks_.assign(size, 0);
     for (size_t index = 0; index < found_.size(); ++index) {
       const size_t length = plan_.rows[index].run.size();
       size_t free_from = 0;
       for (uint32_t at : found_[index]) {
         if (at < free_from) continue;
-        uint8_t* const span = covered_.data() + at;
-        if (std::find(span, span + length, 1) != span + length) continue;
-        std::fill(span, span + length, 1);
-        taken_[at] = static_cast<uint8_t>(index + 1);
+        uint8_t* const span = marks_.data() + at;
+        if (std::any_of(span, span + length, [](uint8_t mark) { return mark != 0; })) continue;
+        span[0] = static_cast<uint8_t>(index + 1);
+        std::fill(span + 1, span + length, kInside);
         free_from = at + length;
       }
     }
   }
 
   void Write(std::string_view chunk, std::string& out) const {
+    const size_t start = out.size();
+    out.resize(start + chunk.size());
+    char* written = out.data() + start;
     for (size_t at = 0; at < chunk.size();) {
-      if (const uint8_t row = taken_[at]; row != 0) {
-        out.push_back(plan_.rows[row - 1].code);
-        at += plan_.rows[row - 1].run.size();
+      if (const uint8_t mark = marks_[at]; mark != 0) {
+        const RunRow& row = plan_.rows[mark - 1u];
+        *written++ = row.code;
+        at += row.run.size();
       } else {
-        out.push_back(plan_.single[static_cast<uint8_t>(chunk[at])]);
+        *written++ = plan_.single[static_cast<uint8_t>(chunk[at])];
         ++at;
       }
     }
+    out.resize(static_cast<size_t>(written - out.data()));
   }
 
+  static constexpr uint8_t kInside = 0xFF;
   const ContractionPlan& plan_;
   std::vector<std::vector<uint32_t>> found_;
-  std::vector<uint8_t> taken_;    // per byte: 1 + the row whose match starts here, or 0
-  std::vector<uint8_t> covered_;  // per byte: 1 when a match holds it
+  std::vector<uint8_t> marks_;
 };
 
 // The concatenation of pieces, handed out in chunks that end after a byte
@@ -210,7 +247,11 @@ void AppendContracted(std::string& out, std::span<const std::string_view> pieces
   ChunkContractor contractor(plan);
   ChunkSource source(pieces, plan);
   std::string chunk;
-  while (source.Next(chunk)) contractor.Contract(chunk, out);
+  while (source.Next(chunk)) {
+    const size_t size = chunk.size();
+    chunk.append(ChunkContractor::kPadding, '\0');
+    contractor.Contract(std::string_view(chunk).substr(0, size), out);
+  }
 }
 
 std::string ContractWords(std::string_view text) {
