@@ -150,6 +150,21 @@ std::string Packable(std::string_view input, TextEncoding encoding, Field field)
   return out;
 }
 
+std::string Detail(const std::string& typed) {
+  return PackableDetail(typed, DetectEncoding(typed));
+}
+
+// What a failure during stage is reported as. A full disk is the output's
+// fault, also when it was the stub's stripped copy that did not fit.
+std::string FailureMessage(std::string stage, const std::exception& error,
+                           const MakeRequest& request) {
+  const auto* runtime = dynamic_cast<const RuntimeError*>(&error);
+  if (runtime != nullptr && runtime->number() == static_cast<int>(ErrorNumber::kDiskFull)) {
+    stage = "cannot write " + request.out_path;
+  }
+  return stage + " (" + error.what() + ")";
+}
+
 void MarkExecutable(const std::string& path) {
   using std::filesystem::perms;
   std::error_code not_executable;  // the book is complete either way
@@ -259,11 +274,10 @@ MakeResult MakeEbook(const MakeRequest& request) {
     file.assign(start.data(), start.size());  // a copy keeps the buffer; a move would not
     const size_t body_start = file.size();
     stage = "cannot pack the book";
-    AppendPackedBody(file, text, PackableDetail(request.author, DetectEncoding(request.author)),
-                     PackableDetail(request.title, DetectEncoding(request.title)));
+    AppendPackedBody(file, text, Detail(request.author), Detail(request.title));
     result.text_length = text.size();
     result.stored_size = file.size() - body_start;
-    text = std::string();
+    text = std::string();  // not needed while the file is written
     stage = "cannot write " + request.out_path;
     WriteFileAtomically(request.out_path, file);
     MarkExecutable(request.out_path);
@@ -272,11 +286,7 @@ MakeResult MakeEbook(const MakeRequest& request) {
                      " bytes of text, book of " + std::to_string(result.stored_size) + " bytes";
   } catch (const std::exception& error) {
     result = MakeResult{};
-    if (const auto* runtime = dynamic_cast<const RuntimeError*>(&error);
-        runtime != nullptr && runtime->number() == static_cast<int>(ErrorNumber::kDiskFull)) {
-      stage = "cannot write " + request.out_path;  // also when the stub's copy did not fit
-    }
-    result.message = stage + " (" + error.what() + ")";
+    result.message = FailureMessage(stage, error, request);
   }
   return result;
 }

@@ -4,17 +4,16 @@
 // on the result of the one before. The same result comes from the input
 // directly:
 // - A single-character row replaces every remaining character equal to its
-//   word, so all of them compose into one byte map for the characters that
-//   no longer word took.
+//   word, so all of them compose into one byte map for the bytes that no
+//   longer row took.
 // - A longer row meets the text as the maps of the rows before it left it:
 //   its word stands for one run of input bytes (or none, when an earlier row
 //   took away one of its characters). Its matches are the occurrences of that
-//   run that touch no character an earlier longer row took, taken left to
-//   right without overlapping each other.
-// - No word holds a byte that some run does not use, so a cut after such a
-//   byte splits the text into pieces that contract independently. The text
-//   goes through in pieces of about kChunk bytes, and memory stays small
-//   whatever its size.
+//   run that touch no byte an earlier longer row took, taken left to right
+//   without overlapping each other.
+// - A byte that no run holds ends no match, so a cut after such a byte splits
+//   the text into pieces that contract independently. The text goes through
+//   in pieces of about kChunk bytes, and memory stays small whatever its size.
 
 #include <algorithm>
 #include <array>
@@ -92,6 +91,8 @@ ContractionPlan MakePlan() {
   for (int row = 1; row <= kWordRows; ++row) {
     const WordRow& word = words[row];
     if (word.word.size() == 1) {
+      // Codes of longer rows are never ASCII, so this touches none of them.
+      if (static_cast<uint8_t>(word.word[0]) >= 0x80) throw "a single-character word is not ASCII";
       for (uint8_t& current : map) {
         if (current == static_cast<uint8_t>(word.word[0])) current = word.code;
       }
@@ -140,7 +141,7 @@ class ChunkContractor {
  private:
   // Where each run occurs in chunk, per row, left to right.
   void FindRuns(std::string_view chunk) {
-    for (std::vector<uint32_t>& positions : found_) positions.clear();
+    for (std::vector<size_t>& positions : found_) positions.clear();
     const char* data = chunk.data();
     for (size_t at = 0; at + 1 < chunk.size(); ++at) {
       const uint16_t pair = PairAt(data + at);
@@ -152,7 +153,7 @@ class ChunkContractor {
       for (; candidate < end; ++candidate) {
         const uint8_t index = plan_.pair_rows[candidate];
         const RunRow& row = plan_.rows[index];
-        if ((bytes & row.mask) == row.bytes) found_[index].push_back(static_cast<uint32_t>(at));
+        if ((bytes & row.mask) == row.bytes) found_[index].push_back(at);
       }
     }
   }
@@ -165,7 +166,7 @@ class ChunkContractor {
     for (size_t index = 0; index < found_.size(); ++index) {
       const size_t length = plan_.rows[index].run.size();
       size_t free_from = 0;
-      for (uint32_t at : found_[index]) {
+      for (size_t at : found_[index]) {
         if (at < free_from) continue;
         uint8_t* const span = marks_.data() + at;
         if (std::any_of(span, span + length, [](uint8_t mark) { return mark != 0; })) continue;
@@ -195,7 +196,7 @@ class ChunkContractor {
 
   static constexpr uint8_t kInside = 0xFF;
   const ContractionPlan& plan_;
-  std::vector<std::vector<uint32_t>> found_;
+  std::vector<std::vector<size_t>> found_;
   std::vector<uint8_t> marks_;
 };
 
