@@ -13,7 +13,7 @@ int RunInfo(const Arguments& arguments) {
     return Fail("usage: vireo-tool info FILE");
   }
   const BookReadResult book = ReadEmbeddedBook(arguments[0], FormattingOptions{});
-  if (!book.has_book) return Fail(book.message);
+  if (const std::string why = UnshowableBook(arguments[0], book); !why.empty()) return Fail(why);
   std::printf("author: %s\n", Utf8FromWindows1252(book.author).c_str());
   std::printf("title: %s\n", Utf8FromWindows1252(book.stored_title).c_str());
   std::printf("stored: %zu bytes\n", book.stored_size);

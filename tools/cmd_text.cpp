@@ -8,8 +8,8 @@
 namespace vireo::tool {
 namespace {
 
-int Print(const BookReadResult& book) {
-  if (!book.has_book) return Fail(book.message);
+int Print(const std::string& path, const BookReadResult& book) {
+  if (const std::string why = UnshowableBook(path, book); !why.empty()) return Fail(why);
   std::fwrite(book.text.data(), 1, book.text.size(), stdout);
   return std::fflush(stdout) == 0 ? 0 : 1;
 }
@@ -42,13 +42,13 @@ int RunText(const Arguments& arguments) {
   }
   switch (kind) {
     case Kind::kBrn:
-      return Print(ReadPackedBookFile(path, PackedFileKind::kBrn, options));
+      return Print(path, ReadPackedBookFile(path, PackedFileKind::kBrn, options));
     case Kind::kBfl:
-      return Print(ReadPackedBookFile(path, PackedFileKind::kBfl, options));
+      return Print(path, ReadPackedBookFile(path, PackedFileKind::kBfl, options));
     case Kind::kEbook:
       break;
   }
-  return Print(ReadEmbeddedBook(path, options));
+  return Print(path, ReadEmbeddedBook(path, options));
 }
 
 }  // namespace vireo::tool

@@ -2,11 +2,13 @@
 
 #include <array>
 #include <cstdint>
+#include <cstring>
 #include <filesystem>
 #include <optional>
 
 #include "book/ebook_stub.h"
 #include "book/load_file.h"
+#include "book/make_request_check.h"
 #include "book/scrambling.h"
 #include "book/word_table.h"
 #include "support/file_io.h"
@@ -26,8 +28,8 @@ constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 enum class Field { kText, kDetail };
 
-// Bytes that must be written as a reference. In a detail field "&" and 200
-// are plain characters, since no reference and no placeholder is read there.
+// Bytes that must be written as a reference. In a detail field 200 is a
+// plain character, since no placeholder is read there.
 std::array<bool, 256> MustEscape(Field field) {
   std::array<bool, 256> produced{};
   for (const std::string& expansion : Expansions()) {
@@ -38,7 +40,8 @@ std::array<bool, 256> MustEscape(Field field) {
     // The scrambling offsets run from -6 to +3: 3..249 fit everywhere.
     escape[byte] = !produced[byte] || byte < 3 || byte > 249 || byte == 169;
   }
-  if (field == Field::kText) escape['&'] = escape[200] = true;
+  escape['&'] = true;
+  if (field == Field::kText) escape[200] = true;
   return escape;
 }
 
@@ -48,7 +51,21 @@ void AppendReference(std::string& out, char32_t code_point) {
 
 class Escaper {
  public:
-  explicit Escaper(Field field) : escape_(MustEscape(field)) {}
+  explicit Escaper(Field field) : escape_(MustEscape(field)) {
+    for (int byte = 0; byte < 256; ++byte) {
+      plain_[byte] = !escape_[byte];
+      plain_ascii_[byte] = plain_[byte] && byte < 0x80;
+    }
+  }
+
+  // The end of the run of bytes from index on that are copied as they are
+  // (only ASCII ones from UTF-8 input).
+  size_t PlainRunEnd(std::string_view input, size_t index, TextEncoding encoding) const {
+    const std::array<bool, 256>& plain =
+        encoding == TextEncoding::kUtf8 ? plain_ascii_ : plain_;
+    while (index < input.size() && plain[static_cast<uint8_t>(input[index])]) ++index;
+    return index;
+  }
 
   void Byte(std::string& out, uint8_t byte) const {
     if (!escape_[byte]) {
@@ -74,6 +91,8 @@ class Escaper {
 
  private:
   std::array<bool, 256> escape_;
+  std::array<bool, 256> plain_{};
+  std::array<bool, 256> plain_ascii_{};
 };
 
 // The next UTF-8 character at index (advancing it), or nullopt when the
@@ -112,17 +131,45 @@ std::string Packable(std::string_view input, TextEncoding encoding, Field field)
   const Escaper escaper(field);
   std::string out;
   out.reserve(input.size() + input.size() / 32);
-  if (encoding == TextEncoding::kWindows1252) {
-    for (char c : input) escaper.Byte(out, static_cast<uint8_t>(c));
-    return out;
+  if (encoding == TextEncoding::kUtf8 && input.starts_with(kByteOrderMark)) {
+    input.remove_prefix(kByteOrderMark.size());
   }
-  if (input.starts_with(kByteOrderMark)) input.remove_prefix(kByteOrderMark.size());
   for (size_t index = 0; index < input.size();) {
-    const std::optional<char32_t> code_point = NextUtf8(input, index);
-    if (!code_point) throw RuntimeError(ErrorNumber::kTypeMismatch, "the text is not UTF-8");
-    escaper.CodePoint(out, *code_point);
+    const size_t run_end = escaper.PlainRunEnd(input, index, encoding);
+    out.append(input.substr(index, run_end - index));
+    index = run_end;
+    if (index == input.size()) break;
+    if (encoding == TextEncoding::kWindows1252) {
+      escaper.Byte(out, static_cast<uint8_t>(input[index++]));
+    } else if (const std::optional<char32_t> code_point = NextUtf8(input, index)) {
+      escaper.CodePoint(out, *code_point);
+    } else {
+      throw RuntimeError(ErrorNumber::kTypeMismatch, "the text is not UTF-8");
+    }
   }
   return out;
+}
+
+std::string Detail(const std::string& typed) {
+  return PackableDetail(typed, DetectEncoding(typed));
+}
+
+// What a failure during stage is reported as. A full disk is the output's
+// fault, also when it was the stub's stripped copy that did not fit.
+std::string FailureMessage(std::string stage, const std::exception& error,
+                           const MakeRequest& request) {
+  const auto* runtime = dynamic_cast<const RuntimeError*>(&error);
+  if (runtime != nullptr && runtime->number() == static_cast<int>(ErrorNumber::kDiskFull)) {
+    stage = "cannot write " + request.out_path;
+  }
+  return stage + " (" + error.what() + ")";
+}
+
+void MarkExecutable(const std::string& path) {
+  using std::filesystem::perms;
+  std::error_code not_executable;  // the book is complete either way
+  std::filesystem::permissions(path, perms::owner_exec | perms::group_exec | perms::others_exec,
+                               std::filesystem::perm_options::add, not_executable);
 }
 
 std::string Filler(size_t length) {
@@ -138,6 +185,13 @@ TextEncoding DetectEncoding(std::string_view bytes) {
   if (bytes.starts_with(kByteOrderMark)) return TextEncoding::kUtf8;
   bool non_ascii = false;
   for (size_t index = 0; index < bytes.size();) {
+    if (uint64_t eight; bytes.size() - index >= sizeof(eight)) {  // ASCII, eight at a time
+      std::memcpy(&eight, bytes.data() + index, sizeof(eight));
+      if ((eight & 0x8080808080808080u) == 0) {
+        index += sizeof(eight);
+        continue;
+      }
+    }
     if (static_cast<uint8_t>(bytes[index]) >= 0x80) non_ascii = true;
     if (!NextUtf8(bytes, index)) return TextEncoding::kWindows1252;
   }
@@ -152,7 +206,8 @@ std::string PackableDetail(std::string_view input, TextEncoding encoding) {
   return Packable(input, encoding, Field::kDetail);
 }
 
-std::string PackBody(std::string_view text, std::string_view author, std::string_view title) {
+void AppendPackedBody(std::string& out, std::string_view text, std::string_view author,
+                      std::string_view title) {
   // The detail block: field 1 the author, field 3 the title, each closed by
   // a section mark so every field ends before the last mark.
   std::string details;
@@ -164,66 +219,74 @@ std::string PackBody(std::string_view text, std::string_view author, std::string
   details += kSectionMark;
   details += kSectionMark;
   const size_t half = text.size() / 2;
-  std::string plain = Filler(kLeadInLength);
-  plain.reserve(text.size() + details.size() + kLeadInLength + kTrailerLength);
-  plain += text.substr(half);
-  plain += details;
-  plain += text.substr(0, half);
-  plain += Filler(kTrailerLength);
-  std::string body = ContractWords(plain);
-  Scramble(body);
+  const std::string lead_in = Filler(kLeadInLength);
+  const std::string trailer = Filler(kTrailerLength);
+  const std::string_view plain[] = {lead_in, text.substr(half), details, text.substr(0, half),
+                                    trailer};
+  const size_t start = out.size();
+  AppendContracted(out, plain);
+  Scramble(out.data() + start, out.size() - start);
+}
+
+std::string PackBody(std::string_view text, std::string_view author, std::string_view title) {
+  std::string body;
+  AppendPackedBody(body, text, author, title);
   return body;
 }
 
 std::string EbookHeaderBlock() { return "Vireo " + AppVersion(); }
 
-std::string EbookFile(std::string stub, std::string_view body) {
+std::string EbookFileStart(std::string stub) {
   stub += HeaderMarker();
   stub += EbookHeaderBlock();
   stub += BookMarker();
-  stub += body;
   return stub;
+}
+
+std::string EbookFile(std::string stub, std::string_view body) {
+  std::string file = EbookFileStart(std::move(stub));
+  file += body;
+  return file;
 }
 
 MakeResult MakeEbook(const MakeRequest& request) {
   MakeResult result;
+  if (std::string problem = MakeRequestProblem(request); !problem.empty()) {
+    result.message = std::move(problem);
+    return result;
+  }
   std::string stage = "cannot read the text " + request.text_path;
   try {
-    const std::string input = ReadWholeFile(request.text_path);
-    if (input.empty()) {
+    std::string file = ReadWholeFile(request.text_path);
+    const size_t input_size = file.size();
+    if (file.empty()) {
       result.message = "the text " + request.text_path + " is empty";
       return result;
     }
     stage = "cannot read the text " + request.text_path + " as UTF-8";
-    const TextEncoding encoding = DetectEncoding(input);
-    const std::string text = PackableText(input, encoding);
-    const std::filesystem::path out_folder =
-        std::filesystem::absolute(request.out_path).parent_path();
-    if (!FolderExists(out_folder.string())) {
-      result.message = "cannot write " + request.out_path + " (no such folder)";
-      return result;
-    }
+    std::string text = PackableText(file, DetectEncoding(file));
+    const std::string out_folder =
+        std::filesystem::absolute(request.out_path).parent_path().string();
     stage = "cannot use the stub " + request.stub_path;
-    std::string stub = PrepareStub(request.stub_path, out_folder.string());
+    // The ebook takes the input's place: that memory is paged in already,
+    // which spares the page faults of a fresh buffer as large as the book.
+    const std::string start = EbookFileStart(PrepareStub(request.stub_path, out_folder));
+    file.assign(start.data(), start.size());  // a copy keeps the buffer; a move would not
+    const size_t body_start = file.size();
     stage = "cannot pack the book";
-    const std::string body =
-        PackBody(text, PackableDetail(request.author, DetectEncoding(request.author)),
-                 PackableDetail(request.title, DetectEncoding(request.title)));
-    stage = "cannot write " + request.out_path;
-    WriteFileAtomically(request.out_path, EbookFile(std::move(stub), body));
-    using std::filesystem::perms;
-    std::error_code not_executable;  // the book is complete either way
-    std::filesystem::permissions(request.out_path,
-                                 perms::owner_exec | perms::group_exec | perms::others_exec,
-                                 std::filesystem::perm_options::add, not_executable);
-    result.ok = true;
+    AppendPackedBody(file, text, Detail(request.author), Detail(request.title));
     result.text_length = text.size();
-    result.stored_size = body.size();
-    result.message = "made " + request.out_path + ": " + std::to_string(input.size()) +
-                     " bytes of text, book of " + std::to_string(body.size()) + " bytes";
+    result.stored_size = file.size() - body_start;
+    text = std::string();  // not needed while the file is written
+    stage = "cannot write " + request.out_path;
+    WriteFileAtomically(request.out_path, file);
+    MarkExecutable(request.out_path);
+    result.ok = true;
+    result.message = "made " + request.out_path + ": " + std::to_string(input_size) +
+                     " bytes of text, book of " + std::to_string(result.stored_size) + " bytes";
   } catch (const std::exception& error) {
     result = MakeResult{};
-    result.message = stage + " (" + error.what() + ")";
+    result.message = FailureMessage(stage, error, request);
   }
   return result;
 }

@@ -30,20 +30,26 @@ TextEncoding DetectEncoding(std::string_view bytes);
 std::string PackableText(std::string_view input, TextEncoding encoding);
 
 // A detail field (author, title) in packable form: the same, except that
-// "&" and 200 stay as they are (the reader converts no references there).
+// 200 stays as it is (the reader reads no paragraph placeholder there; it
+// converts the references as in the text).
 std::string PackableDetail(std::string_view input, TextEncoding encoding);
 
 // The stored body (what follows the book marker) for a packable text and
 // packable details. Throws RuntimeError 6 when a character cannot be stored
 // (packable input never does).
 std::string PackBody(std::string_view text, std::string_view author, std::string_view title);
+// The same appended to out, scrambled from where it starts there; the extra
+// memory is the body itself and a few small buffers.
+void AppendPackedBody(std::string& out, std::string_view text, std::string_view author,
+                      std::string_view title);
 
 // The header block written between the two markers.
 std::string EbookHeaderBlock();
 
 // A whole ebook file: the stub, the header marker, the header block, the
-// book marker and the body.
+// book marker and the body. EbookFileStart is all of it but the body.
 std::string EbookFile(std::string stub, std::string_view body);
+std::string EbookFileStart(std::string stub);
 
 struct MakeRequest {
   std::string text_path;
@@ -60,9 +66,11 @@ struct MakeResult {
   size_t stored_size = 0;  // bytes of the body
 };
 
-// Makes the ebook: reads the text (unreadable or empty: error), prepares the
-// stub, packs, and writes out_path through a temporary file, so that on any
-// failure nothing is left at out_path. The file is made executable.
+// Makes the ebook: checks the request (MakeRequestProblem), reads the text
+// (unreadable or empty: error), prepares the stub, packs, and writes
+// out_path through a temporary file, so that on any failure nothing is left
+// at out_path and the text and the stub are untouched. The file is made
+// executable. Memory: about twice the text, plus the stub.
 MakeResult MakeEbook(const MakeRequest& request);
 
 }  // namespace vireo

@@ -1,6 +1,8 @@
 #include "book/book_reader.h"
 
+#include <algorithm>
 #include <cctype>
+#include <cstdint>
 #include <filesystem>
 #include <new>
 #include <stdexcept>
@@ -51,16 +53,38 @@ std::string RecordLoadError() {
          std::to_string(error.number()) + ") of module " + std::string(kLoadModule);
 }
 
-void FinishText(clsBIN& bin, BookReadResult& result) {
-  result.text = bin.TakeResultText();
+void ConvertReferences(std::string& text) {
   // Every reference starts with "&", and neither conversion makes one out
   // of nothing: a text without one (most books) is left after one scan.
-  if (result.text.find('&') != std::string::npos) {
-    HtmlToChar(result.text);
-    HtmlConstToChar(result.text);
+  if (text.find('&') != std::string::npos) {
+    HtmlToChar(text);
+    HtmlConstToChar(text);
   }
+}
+
+bool HoldsControlCharacters(std::string_view text) {
+  return std::any_of(text.begin(), text.end(),
+                     [](char c) { return static_cast<uint8_t>(c) < 0x20; });
+}
+
+// Why the unpacked book cannot be what was stored, or "".
+std::string Damage(const clsBIN& bin) {
+  if (!bin.first_failure().empty()) return "the unpacking stopped in " + bin.first_failure();
+  if (HoldsControlCharacters(bin.details().author) || HoldsControlCharacters(bin.details().title)) {
+    return "its author and title are not text";
+  }
+  return "";
+}
+
+void FinishText(clsBIN& bin, BookReadResult& result, const std::string& path) {
+  result.text = bin.TakeResultText();
+  ConvertReferences(result.text);
   result.author = bin.details().author;
   result.stored_title = bin.details().title;
+  ConvertReferences(result.author);
+  ConvertReferences(result.stored_title);
+  result.damage = Damage(bin);
+  if (!result.damage.empty()) LogAction("The book in " + path + " is damaged: " + result.damage);
   result.has_book = true;
 }
 
@@ -90,6 +114,7 @@ BookReadResult ReadEmbeddedBook(const std::string& path, const FormattingOptions
     LogAction("Reading Book");
     const std::string book_marker = BookMarker();
     const size_t book_at = file.find(book_marker, header_start);
+    if (book_at == std::string::npos) LogAction("No book follows the header marker in " + path);
     Require(book_at != std::string::npos, ErrorNumber::kInvalidProcedureCall);
     clsBIN bin(options, progress);
     bin.set_header_block(file.substr(header_start, book_at - header_start));
@@ -98,7 +123,7 @@ BookReadResult ReadEmbeddedBook(const std::string& path, const FormattingOptions
     bin.set_body(std::move(file));
     LogAction("Converting book");
     bin.ConvertLoadedBRN();
-    FinishText(bin, result);
+    FinishText(bin, result, path);
     result.title = FileNamePart(path);
   } catch (...) {
     result = BookReadResult{};
@@ -122,7 +147,7 @@ BookReadResult ReadPackedBookFile(const std::string& path, PackedFileKind kind,
   }
   try {
     result.stored_size = static_cast<size_t>(std::filesystem::file_size(path));
-    FinishText(bin, result);
+    FinishText(bin, result, path);
     result.title = FileNamePart(path);
   } catch (...) {
     result = BookReadResult{};

@@ -13,9 +13,13 @@ namespace vireo {
 struct BookReadResult {
   bool has_book = false;
   std::string text;          // the book text as the reader holds it
-  std::string author;        // detail field 1
+  std::string author;        // detail field 1, references converted
   std::string title;         // the file name part of the path, as the reader shows it
-  std::string stored_title;  // detail field 3, as the book carries it
+  std::string stored_title;  // detail field 3, references converted
+  // Why the book is not what was stored ("the unpacking stopped in sub
+  // decodebin", "its author and title are not text"), or "". The reader
+  // goes on with what it got; the tools refuse such a book.
+  std::string damage;
   size_t stored_size = 0;    // bytes of the packed body
   // Why there is no book: the reader's message box text when the file holds
   // no header marker (show_message true), otherwise the logged error line.
@@ -25,10 +29,12 @@ struct BookReadResult {
 
 // Loads the book appended to the file at path, exactly as the reader does
 // at start-up: reads the file, finds the markers, unpacks with clsBIN
-// (progress told to progress, if set) and converts the HTML references.
-// Logs "Loading from: " path, "Reading Book" and "Converting book"; an
-// error (unreadable file, a header marker without a book marker) is logged
-// under "sub loadfile" of "frmMain" and gives no book.
+// (progress told to progress, if set) and converts the HTML references in
+// the text and the details. Logs "Loading from: " path, "Reading Book" and
+// "Converting book"; an error (unreadable file, a header marker without a
+// book marker) is logged under "sub loadfile" of "frmMain" and gives no
+// book. A header marker without a book, and a damaged book, also get a log
+// line of their own that names the file.
 BookReadResult ReadEmbeddedBook(const std::string& path, const FormattingOptions& options,
                                 const ProgressHandler& progress = nullptr);
 

@@ -85,6 +85,13 @@ std::string BookFolderOf(std::string_view path) {
 clsBIN::clsBIN(FormattingOptions options, ProgressHandler progress)
     : options_(options), progress_(std::move(progress)) {}
 
+template <typename Body>
+bool clsBIN::Step(std::string_view procedure, Body&& body) {
+  const bool ran = Trap(procedure, kModule, std::forward<Body>(body));
+  if (!ran && first_failure_.empty()) first_failure_ = procedure;
+  return ran;
+}
+
 void clsBIN::Progress(std::string_view caption, int value) {
   if (progress_) progress_(GetTranslation(caption), value, kProgressMaximum);
 }
@@ -100,7 +107,7 @@ void clsBIN::Finish(int progress) {
 }
 
 void clsBIN::ConvertLoadedBRN() {
-  Trap("sub convertloadedbrn", kModule, [&] {
+  Step("sub convertloadedbrn", [&] {
     book_folder_ = ProgramFolder() + kSeparator;
     Progress("Unpacking", 30);
     DecodeAndExtract();
@@ -111,7 +118,7 @@ void clsBIN::ConvertLoadedBRN() {
 }
 
 void clsBIN::ConvertAndLoadBRN(const std::string& path) {
-  Trap("sub convertandloadbrn", kModule, [&] {
+  Step("sub convertandloadbrn", [&] {
     book_folder_ = BookFolderOf(path);
     Progress("Reading BRN file", 20);
     ReadBin(path);
@@ -124,7 +131,7 @@ void clsBIN::ConvertAndLoadBRN(const std::string& path) {
 }
 
 void clsBIN::ConvertAndLoadBFL(const std::string& path) {
-  Trap("sub convertandloadbfl", kModule, [&] {
+  Step("sub convertandloadbfl", [&] {
     book_folder_ = BookFolderOf(path);
     Progress("Reading file", 10);
     ReadBin(path);
@@ -137,12 +144,12 @@ void clsBIN::ConvertAndLoadBFL(const std::string& path) {
 }
 
 void clsBIN::ReadBin(const std::string& path) {
-  Trap("sub readbin", kModule, [&] { body_ = ReadWholeFile(path); });
+  Step("sub readbin", [&] { body_ = ReadWholeFile(path); });
 }
 
 bool clsBIN::CheckForBflHeader() {
   bool found = false;
-  Trap("function checkforbflheader", kModule, [&] {
+  Step("function checkforbflheader", [&] {
     if (body_.empty() || body_[0] != kBflFlag) return;
     Require(body_.size() >= kBflHeaderLength, ErrorNumber::kInvalidProcedureCall);
     std::string header = body_.substr(0, kBflHeaderLength);
@@ -159,7 +166,7 @@ bool clsBIN::CheckForBflHeader() {
 }
 
 void clsBIN::DecodeBin() {
-  Trap("sub decodebin", kModule, [&] {
+  Step("sub decodebin", [&] {
     SetupWords();  // the table is constant; Expansions() holds it composed
     Descramble(body_);
     body_ = ExpandWords(body_);
@@ -168,14 +175,14 @@ void clsBIN::DecodeBin() {
 
 void clsBIN::DecodeAndExtract() {
   bool descrambled = false;
-  Trap("sub decodebin", kModule, [&] {
+  Step("sub decodebin", [&] {
     SetupWords();  // the table is constant; Expansions() holds it composed
     Descramble(body_);
     descrambled = true;
   });
   if (descrambled) {
     std::optional<ExtractedBook> book;
-    Trap("sub decodebin", kModule, [&] {
+    Step("sub decodebin", [&] {
       book = ExpandInReadingOrder(body_);
       if (!book) body_ = ExpandWords(body_);
     });
@@ -190,7 +197,7 @@ void clsBIN::DecodeAndExtract() {
 }
 
 void clsBIN::BrnPostExtract() {
-  Trap("sub brnpostextract", kModule, [&] {
+  Step("sub brnpostextract", [&] {
     body_.erase(0, std::min(kLeadInLength, body_.size()));
     body_.resize(body_.size() - std::min(kTrailerLength, body_.size()));
     const size_t first = body_.find(kSectionMark);
@@ -207,21 +214,21 @@ void clsBIN::BrnPostExtract() {
 }
 
 void clsBIN::DecodeDetails() {
-  Trap("sub decodedetails", kModule, [&] {
+  Step("sub decodedetails", [&] {
     details_.author = DetailField(detail_block_, 1);
     details_.title = DetailField(detail_block_, 3);
   });
 }
 
 void clsBIN::FinalPass() {
-  Trap("sub finalpass", kModule, [&] {
+  Step("sub finalpass", [&] {
     clsStripCR::ReplaceKnownChar(body_, options_);
     ReplaceParagraphPlaceholders(body_);
   });
 }
 
 void clsBIN::ParseImages(std::string& text) {
-  Trap("sub parseimages", kModule, [&] {
+  Step("sub parseimages", [&] {
     // FIXME: the image store (ClearAll, then LoadAllImages with the book
     // folder, the text and the packed-book flag) rewrites picture references
     // into placeholders here once it exists; until then the text stays as

@@ -64,10 +64,16 @@ class clsBIN {
   // The finished book text after a conversion; TakeResultText moves it out.
   const std::string& result_text() const { return result_text_; }
   std::string TakeResultText() { return std::move(result_text_); }
+  // The logged name of the first procedure that met an error during the
+  // conversion ("sub decodebin" ...), or "" when every one ran to its end.
+  const std::string& first_failure() const { return first_failure_; }
 
  private:
   void Finish(int progress);
   void Progress(std::string_view caption, int value);
+  // Runs a procedure body under the error trap, noting the first failure.
+  template <typename Body>
+  bool Step(std::string_view procedure, Body&& body);
 
   FormattingOptions options_;
   ProgressHandler progress_;
@@ -77,6 +83,7 @@ class clsBIN {
   std::string book_folder_;
   std::string result_text_;
   BookDetails details_;
+  std::string first_failure_;
 };
 
 // The folder of a book file in which its side files are looked for: the

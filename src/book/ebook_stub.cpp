@@ -57,7 +57,15 @@ std::string StrippedCopy(const std::string& stub_path, const std::string& work_f
   if (stripped) bytes = ReadWholeFile(temporary);
   std::error_code ignored;
   std::filesystem::remove(temporary, ignored);
-  if (!stripped) throw RuntimeError(ErrorNumber::kPathFileAccess, "strip failed on " + stub_path);
+  if (!stripped) {
+    // strip needs room for a copy as large as the stub; without it the
+    // folder, not the stub, is at fault.
+    std::error_code unknown;
+    const uintmax_t available = std::filesystem::space(work_folder, unknown).available;
+    const uintmax_t needed = unknown ? 0 : std::filesystem::file_size(stub_path, unknown);
+    if (!unknown && available < needed) throw RuntimeError(ErrorNumber::kDiskFull);
+    throw RuntimeError(ErrorNumber::kPathFileAccess, "strip failed on " + stub_path);
+  }
   return bytes;
 #endif
 }

@@ -15,7 +15,8 @@ bool HasSymbolTable(std::string_view bytes);
 // is an unstripped ELF file (strip drops anything appended later, so the
 // book must come after it), and cut at a header marker when the stub is
 // itself an ebook. work_folder holds the temporary stripped copy. Throws
-// RuntimeError 53/75 when the stub cannot be read, 75 when strip fails.
+// RuntimeError 53/75 when the stub cannot be read, 75 when strip fails, 61
+// when it failed for want of room in work_folder.
 std::string PrepareStub(const std::string& stub_path, const std::string& work_folder);
 
 }  // namespace vireo

@@ -48,12 +48,11 @@ void ShiftCarefully(char* data, size_t index, size_t size, const int16_t* offset
   }
 }
 
-void Shift(std::string& text, int sign) {
+void Shift(char* text, size_t size, int sign) {
   static constexpr std::array<int16_t, kBlock> kDescramble = BlockOffsets(1);
   static constexpr std::array<int16_t, kBlock> kScramble = BlockOffsets(-1);
   const int16_t* offsets = sign > 0 ? kDescramble.data() : kScramble.data();
-  uint8_t* data = reinterpret_cast<uint8_t*>(text.data());
-  const size_t size = text.size();
+  uint8_t* data = reinterpret_cast<uint8_t*>(text);
   size_t index = 0;
   for (; index + kBlock <= size; index += kBlock) {
     uint8_t shifted[kBlock];
@@ -66,15 +65,17 @@ void Shift(std::string& text, int sign) {
     if ((outside & 0xFF00) != 0) break;
     std::memcpy(data + index, shifted, kBlock);
   }
-  ShiftCarefully(text.data(), index, size, offsets);
+  ShiftCarefully(text, index, size, offsets);
 }
 
 }  // namespace
 
 int DescrambleOffset(size_t index) { return kOffsets[index % kPeriod]; }
 
-void Descramble(std::string& body) { Shift(body, 1); }
+void Descramble(std::string& body) { Shift(body.data(), body.size(), 1); }
 
-void Scramble(std::string& plain) { Shift(plain, -1); }
+void Scramble(std::string& plain) { Scramble(plain.data(), plain.size()); }
+
+void Scramble(char* plain, size_t size) { Shift(plain, size, -1); }
 
 }  // namespace vireo

@@ -19,5 +19,7 @@ void Descramble(std::string& body);
 // would leave 0..255 at its position raises RuntimeError 6 (the characters
 // 3..249 fit at every position).
 void Scramble(std::string& plain);
+// The same for the size characters at plain, the first of them at index 0.
+void Scramble(char* plain, size_t size);
 
 }  // namespace vireo

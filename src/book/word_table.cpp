@@ -22,21 +22,6 @@ constexpr FixedRow kFixedRows[38] = {
     {231, " "},    {32, "f"},     {232, ","},       {233, "."},   {46, "r"},      {234, "\""},
     {235, "c"},    {236, "Th"}};
 
-// Replaces every occurrence of find (left to right, no rescanning) by the
-// single character code.
-std::string ReplaceByCode(std::string_view text, std::string_view find, char code) {
-  std::string out;
-  out.reserve(text.size());
-  size_t from = 0;
-  for (size_t at = text.find(find); at != std::string_view::npos; at = text.find(find, from)) {
-    out.append(text, from, at - from);
-    out.push_back(code);
-    from = at + find.size();
-  }
-  out.append(text, from);
-  return out;
-}
-
 }  // namespace
 
 WordTable SetupWords() {
@@ -162,15 +147,6 @@ std::string ExpandWords(std::string_view text) {
   ExpandInto(text, out.data());
   out.resize(length);
   return out;
-}
-
-std::string ContractWords(std::string_view text) {
-  const WordTable words = SetupWords();
-  std::string contracted(text);
-  for (int row = 1; row <= kWordRows; ++row) {
-    contracted = ReplaceByCode(contracted, words[row].word, static_cast<char>(words[row].code));
-  }
-  return contracted;
 }
 
 }  // namespace vireo

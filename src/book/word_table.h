@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -41,7 +42,12 @@ char* ExpandInto(std::string_view text, char* out);
 
 // Contracts text for packing: every word of row 1, then row 2, ... row 48 is
 // replaced by its code, left to right. ExpandWords(ContractWords(t)) == t for
-// every t free of the codes 179-188 and 201-236.
+// every t free of the codes 179-188 and 201-236. Runs in one pass, in time
+// and extra memory linear in the text.
 std::string ContractWords(std::string_view text);
+
+// The contraction of the concatenated pieces appended to out, without
+// building the concatenation.
+void AppendContracted(std::string& out, std::span<const std::string_view> pieces);
 
 }  // namespace vireo
