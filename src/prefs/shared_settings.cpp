@@ -58,6 +58,48 @@ std::vector<std::string> SplitLines(const std::string& content) {
   return lines;
 }
 
+// Sorted by key with one item per key holding the value added last: the
+// store that adding the items one by one in this order gives, in
+// O(n log n) instead of one insertion into the middle per item.
+std::vector<cSHAREDSetting> SortedLastValueWins(std::vector<cSHAREDSetting> items) {
+  std::stable_sort(items.begin(), items.end(),
+                   [](const auto& a, const auto& b) { return a.KeyName < b.KeyName; });
+  std::vector<cSHAREDSetting> unique;
+  unique.reserve(items.size());
+  for (cSHAREDSetting& item : items) {
+    if (!unique.empty() && unique.back().KeyName == item.KeyName) {
+      unique.back().KeyValue = std::move(item.KeyValue);
+    } else {
+      unique.push_back(std::move(item));
+    }
+  }
+  return unique;
+}
+
+bool HoldsLineEnd(const std::string& text) {
+  return text.find_first_of("\r\n") != std::string::npos;
+}
+
+// The file's lines for the items; an item whose key or value holds a line end
+// is left out, since its line would split into two on loading.
+std::string FileContent(const std::vector<cSHAREDSetting>& items, int& left_out) {
+  std::string content;
+  left_out = 0;
+  for (const cSHAREDSetting& item : items) {
+    const std::string key = WithoutCommas(UpperCase(item.KeyName));
+    const std::string value = item.KeyValue.ToText();
+    if (HoldsLineEnd(key) || HoldsLineEnd(value)) {
+      ++left_out;
+      continue;
+    }
+    content += key;
+    content += ',';
+    content += value;
+    content += "\r\n";
+  }
+  return content;
+}
+
 }  // namespace
 
 int cSHAREDSettings::SettingsCount() const { return static_cast<int>(items_.size()); }
@@ -163,12 +205,11 @@ void cSHAREDSettings::SortSettings() {
 void cSHAREDSettings::SaveSettings(const std::string& path) const {
   try {
     if (!PrepareForOutput(path)) return;
-    std::string content;
-    for (const cSHAREDSetting& item : items_) {
-      content += WithoutCommas(UpperCase(item.KeyName));
-      content += ',';
-      content += item.KeyValue.ToText();
-      content += "\r\n";
+    int left_out = 0;
+    const std::string content = FileContent(items_, left_out);
+    if (left_out > 0) {
+      LogAction(std::to_string(left_out) + " setting(s) with a line end in the name or value" +
+                " not written to " + path);
     }
     WriteFileAtomically(path, content);
   } catch (const RuntimeError& error) {
@@ -181,9 +222,11 @@ void cSHAREDSettings::SaveSettings(const std::string& path) const {
 }
 
 void cSHAREDSettings::LoadSettings(const std::string& path) {
+  RemoveStaleTemporary(path);
   if (!FileExists(path)) return;
   std::string key;
   std::string value;
+  std::vector<cSHAREDSetting> read;
   try {
     const std::string content = ReadWholeFile(path);
     DeleteAllSettings();
@@ -193,7 +236,7 @@ void cSHAREDSettings::LoadSettings(const std::string& path) {
       const std::string normal = UpperCase(TrimBlanks(key));
       const bool skip = normal.empty() || normal == previous_key;
       previous_key = normal;
-      if (!skip) AddSetting(key, ParseSettingText(value));
+      if (!skip) read.push_back({WithoutCommas(key), ParseSettingText(value)});
     }
   } catch (const RuntimeError& error) {
     LogAction("Error " + std::to_string(error.number()) + " in line: " + key + "," + value +
@@ -202,7 +245,8 @@ void cSHAREDSettings::LoadSettings(const std::string& path) {
   } catch (...) {
     RecordCurrentException("loadsettings", kModule);
   }
-  SortSettings();
+  // Lines read before a failure stay in the store.
+  if (!read.empty()) items_ = SortedLastValueWins(std::move(read));
 }
 
 }  // namespace vireo
