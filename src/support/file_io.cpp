@@ -76,6 +76,10 @@ std::filesystem::path ResolvedTarget(const std::string& path) {
   return path;
 }
 
+std::string TemporaryBeside(const std::filesystem::path& target) {
+  return target.string() + ".tmp";
+}
+
 }  // namespace
 
 std::string ReadWholeFile(const std::string& path) {
@@ -103,20 +107,20 @@ bool PrepareForOutput(const std::string& path) {
 }
 
 std::string TemporaryPathFor(const std::string& path) {
-  return ResolvedTarget(path).string() + ".tmp";
+  return TemporaryBeside(ResolvedTarget(path));
 }
 
 void RemoveStaleTemporary(const std::string& path) {
   std::error_code error;
-  const std::filesystem::path temporary = TemporaryPathFor(path);
-  if (std::filesystem::is_regular_file(std::filesystem::symlink_status(temporary, error))) {
-    std::filesystem::remove(temporary, error);
-  }
+  std::filesystem::remove(TemporaryPathFor(path), error);  // a link itself, never what it names
 }
 
 void WriteFileAtomically(const std::string& path, const std::string& content) {
   const std::filesystem::path target = ResolvedTarget(path);
-  const std::string temporary = target.string() + ".tmp";
+  const std::string temporary = TemporaryBeside(target);
+  // A stale temporary that is a link would send the bytes where it points.
+  std::error_code stale;
+  std::filesystem::remove(temporary, stale);
   FILE* file = std::fopen(temporary.c_str(), "wb");
   if (file == nullptr) throw RuntimeError(WriteError(errno));
   try {
