@@ -8,6 +8,7 @@
 namespace vireo {
 namespace {
 
+constexpr double kWhite = 0xFFFFFF;
 constexpr double kNarrowestWindowTwips = 3500;
 constexpr double kLowestWindowTwips = 6570;
 // Larger than any screen in twips; a stored size at least 0.95 of the
@@ -33,6 +34,10 @@ NumberPreference RightBorderPreference() { return {"RightBorder", 400, 100, 1000
 NumberPreference TopBorderPreference() { return {"TopBorder", 300, 100, 1000}; }
 // The page number sits in the bottom border, which is why it starts higher.
 NumberPreference BottomBorderPreference() { return {"BottomBorder", 550, 200, 1000}; }
+
+NumberPreference ColourPreference(std::string key, uint32_t default_colour) {
+  return {std::move(key), static_cast<double>(default_colour), 0, kWhite};
+}
 
 NumberPreference WindowWidthPreference(std::string key, double default_twips) {
   return {std::move(key), default_twips, kNarrowestWindowTwips, kLargestWindowTwips};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 namespace vireo {
@@ -21,6 +22,8 @@ NumberPreference LeftBorderPreference();
 NumberPreference RightBorderPreference();
 NumberPreference TopBorderPreference();
 NumberPreference BottomBorderPreference();
+// A colour 0x00BBGGRR under key.
+NumberPreference ColourPreference(std::string key, uint32_t default_colour);
 // The window's width or height in twips under key, from the smallest size
 // the resize handler lets the window take (with the control bar hidden) to
 // far beyond any screen.

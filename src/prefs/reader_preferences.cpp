@@ -31,7 +31,8 @@ bool ReadBool(const std::string& key, bool default_value) {
 }
 
 uint32_t ReadColour(const std::string& key, uint32_t default_value) {
-  return static_cast<uint32_t>(sget(key, static_cast<int64_t>(default_value)).ToLong());
+  const double colour = ReadNumberPreference(ColourPreference(key, default_value));
+  return static_cast<uint32_t>(SettingValue(colour).ToLong());
 }
 
 SettingValue ColourValue(uint32_t colour) { return SettingValue(static_cast<int64_t>(colour)); }

@@ -2,10 +2,7 @@
 // ascending order, and saving and loading again settles after one round.
 // Large inputs also catch a load that is not linear (libFuzzer's -timeout).
 
-#include <unistd.h>
-
 #include <cstdint>
-#include <cstdio>
 #include <cstdlib>
 #include <string>
 
@@ -30,15 +27,12 @@ std::string LoadAndSave() {
 
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
   vireo::fuzz::StartUp();
-  g_path = "/tmp/vireo-settings-load-fuzz-" + std::to_string(getpid());
+  g_path = vireo::fuzz::ScratchPath("settings-load");
   return 0;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-  FILE* file = std::fopen(g_path.c_str(), "wb");
-  if (file == nullptr) return 0;
-  std::fwrite(data, 1, size, file);
-  std::fclose(file);
+  if (!vireo::fuzz::WriteInput(g_path, data, size)) return 0;
   LoadAndSave();
   const std::string once = LoadAndSave();
   if (LoadAndSave() != once) std::abort();

@@ -114,12 +114,20 @@ TEST_F(ReaderPreferencesTest, ValuesAtTheLimitsAreKeptAndBeyondThemReplacedByThe
     double value;
     bool kept;
   } cases[] = {
-      {FontSizePreference(), 6, true},        {FontSizePreference(), 5, false},
-      {FontSizePreference(), 48, true},       {FontSizePreference(), 49, false},
-      {LeftBorderPreference(), 100, true},    {LeftBorderPreference(), 1001, false},
-      {BottomBorderPreference(), 150, false}, {BottomBorderPreference(), 200, true},
-      {TextureNumPreference(), -1, true},     {TextureNumPreference(), -2, false},
-      {TextureNumPreference(), 3, true},      {TextureNumPreference(), 4, false},
+      {FontSizePreference(), 6, true},
+      {FontSizePreference(), 5, false},
+      {FontSizePreference(), 48, true},
+      {FontSizePreference(), 49, false},
+      {LeftBorderPreference(), 100, true},
+      {LeftBorderPreference(), 1001, false},
+      {BottomBorderPreference(), 150, false},
+      {BottomBorderPreference(), 200, true},
+      {TextureNumPreference(), -1, true},
+      {TextureNumPreference(), -2, false},
+      {TextureNumPreference(), 3, true},
+      {TextureNumPreference(), 4, false},
+      {ColourPreference("InkColour", 0), 0xFFFFFF, true},
+      {ColourPreference("InkColour", 0), 0x1000000, false},
   };
   for (const auto& c : cases) {
     sset(c.preference.key, c.value);
