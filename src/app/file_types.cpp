@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <optional>
 #include <system_error>
 
 #include "support/file_io.h"
@@ -31,9 +32,51 @@ std::string MimePackage() {
   return xml;
 }
 
-std::string DesktopEntry(const std::string& executable_path) {
-  return "[Desktop Entry]\nType=Application\nName=Vireo\nComment=Read ebooks\nExec=\"" +
-         executable_path + "\" %f\nMimeType=application/x-vireo-book;\nTerminal=false\n";
+// The executable as the one argument of an Exec key: in double quotes, with
+// '"', '`', '$' and '\\' taking a backslash and '%' doubled so that no part of
+// the path reads as a field code.
+std::string QuotedExecArgument(const std::string& path) {
+  std::string quoted = "\"";
+  for (const char c : path) {
+    if (c == '"' || c == '`' || c == '$' || c == '\\') quoted += '\\';
+    if (c == '%') quoted += '%';
+    quoted += c;
+  }
+  return quoted + "\"";
+}
+
+// A desktop entry's string value: backslash, line feed, carriage return and
+// tab as escape sequences, so that the value stays on its one line. Other
+// control characters cannot be written: nullopt.
+std::optional<std::string> EscapedDesktopValue(const std::string& value) {
+  std::string escaped;
+  for (const char c : value) {
+    switch (c) {
+      case '\\':
+        escaped += "\\\\";
+        break;
+      case '\n':
+        escaped += "\\n";
+        break;
+      case '\r':
+        escaped += "\\r";
+        break;
+      case '\t':
+        escaped += "\\t";
+        break;
+      default:
+        if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) return std::nullopt;
+        escaped += c;
+    }
+  }
+  return escaped;
+}
+
+std::optional<std::string> DesktopEntry(const std::string& executable_path) {
+  const auto exec = EscapedDesktopValue(QuotedExecArgument(executable_path) + " %f");
+  if (!exec) return std::nullopt;
+  return "[Desktop Entry]\nType=Application\nName=Vireo\nComment=Read ebooks\nExec=" + *exec +
+         "\nMimeType=application/x-vireo-book;\nTerminal=false\n";
 }
 
 void WriteIfChanged(const std::string& path, const std::string& content) {
@@ -52,11 +95,11 @@ void WriteIfChanged(const std::string& path, const std::string& content) {
 
 bool RegisterFileTypes(const std::string& executable_path) {
   const std::string data_home = DataHome();
-  if (data_home.empty()) return false;
+  const auto entry = DesktopEntry(executable_path);
+  if (data_home.empty() || !entry) return false;
   try {
     WriteIfChanged(JoinPath(data_home, "mime/packages/vireo-books.xml"), MimePackage());
-    WriteIfChanged(JoinPath(data_home, "applications/vireo.desktop"),
-                   DesktopEntry(executable_path));
+    WriteIfChanged(JoinPath(data_home, "applications/vireo.desktop"), *entry);
     return true;
   } catch (...) {
     return false;

@@ -1,5 +1,6 @@
 #include "prefs/reader_preferences.h"
 
+#include "prefs/preference_ranges.h"
 #include "prefs/settings_get_set.h"
 #include "support/checked_int16.h"
 #include "support/error_trap.h"
@@ -21,8 +22,8 @@ constexpr double kDefaultHeight = 6570;
 void ReadStep(auto&& step) { Trap("sub readsettings", kModule, step); }
 void StoreStep(auto&& step) { Trap("sub storesettings", kModule, step); }
 
-int ReadInteger(const std::string& key, const SettingValue& default_value) {
-  return Int16::FromDouble(sget(key, default_value).ToNumber());
+int ReadInteger(const NumberPreference& preference) {
+  return Int16::FromDouble(ReadNumberPreference(preference));
 }
 
 bool ReadBool(const std::string& key, bool default_value) {
@@ -30,7 +31,8 @@ bool ReadBool(const std::string& key, bool default_value) {
 }
 
 uint32_t ReadColour(const std::string& key, uint32_t default_value) {
-  return static_cast<uint32_t>(sget(key, static_cast<int64_t>(default_value)).ToLong());
+  const double colour = ReadNumberPreference(ColourPreference(key, default_value));
+  return static_cast<uint32_t>(SettingValue(colour).ToLong());
 }
 
 SettingValue ColourValue(uint32_t colour) { return SettingValue(static_cast<int64_t>(colour)); }
@@ -70,7 +72,7 @@ void ReadSettings(ReaderPreferences& prefs, PreferencesHost& host, const SystemC
   });
   ReadStep([&] { prefs.single_page_mode = ReadBool("SinglePageMode", false); });
   ReadStep([&] {
-    prefs.font_size = ReadInteger("FontSize", "10");
+    prefs.font_size = ReadInteger(FontSizePreference());
     host.ApplyFontSize(prefs.font_size);
   });
   ReadStep([&] {
@@ -91,20 +93,20 @@ void ReadSettings(ReaderPreferences& prefs, PreferencesHost& host, const SystemC
     host.TickExtraParagraphLine(prefs.extra_paragraph_line);
   });
   ReadColours(prefs, host, system);
-  ReadStep([&] { prefs.page_sweep_width = ReadInteger("PageSweepWidth", 2100); });
+  ReadStep([&] { prefs.page_sweep_width = ReadInteger(PageSweepWidthPreference()); });
   // The default width follows the bar, the key follows the page mode.
   ReadStep([&] {
     const double default_width = prefs.bar_hidden ? kDefaultWidthBarHidden : kDefaultWidth;
     const char* key = prefs.single_page_mode ? "SingleWinWidth" : "WinWidth";
-    prefs.window_width = sget(key, default_width).ToNumber();
+    prefs.window_width = ReadNumberPreference(WindowWidthPreference(key, default_width));
   });
   ReadStep([&] {
     const char* key = prefs.single_page_mode ? "SingleWinHeight" : "WinHeight";
-    prefs.window_height = sget(key, kDefaultHeight).ToNumber();
+    prefs.window_height = ReadNumberPreference(WindowHeightPreference(key, kDefaultHeight));
   });
   FitToScreen(prefs, host);
   ReadStep([&] { prefs.instant_page_turn = ReadBool("InstantPageTurn", false); });
-  ReadStep([&] { prefs.texture_num = ReadInteger("TextureNum", 1); });
+  ReadStep([&] { prefs.texture_num = ReadInteger(TextureNumPreference()); });
 }
 
 void ReadDefaultPath(ReaderPreferences& prefs, const std::string& executable_folder) {

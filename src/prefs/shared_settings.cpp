@@ -1,6 +1,7 @@
 #include "prefs/shared_settings.h"
 
 #include <algorithm>
+#include <string_view>
 
 #include "support/error_trap.h"
 #include "support/file_io.h"
@@ -19,43 +20,82 @@ std::string WithoutCommas(std::string key) {
   return key;
 }
 
-std::string TrimBlanks(const std::string& text) {
+std::string_view TrimBlanks(std::string_view text) {
   const size_t first = text.find_first_not_of(' ');
-  if (first == std::string::npos) return "";
+  if (first == std::string_view::npos) return {};
   return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 // Splits one line into its comma-delimited key field and the rest: leading
 // blanks are skipped, a key in double quotes is read without them.
-std::pair<std::string, std::string> SplitLine(const std::string& line) {
+std::pair<std::string_view, std::string_view> SplitLine(std::string_view line) {
+  constexpr auto kNone = std::string_view::npos;
   size_t at = line.find_first_not_of(' ');
-  if (at == std::string::npos) return {"", ""};
+  if (at == kNone) return {};
   if (line[at] == '"') {
     const size_t close = line.find('"', at + 1);
-    if (close == std::string::npos) return {line.substr(at + 1), ""};
+    if (close == kNone) return {line.substr(at + 1), {}};
     const size_t comma = line.find(',', close);
-    return {line.substr(at + 1, close - at - 1),
-            comma == std::string::npos ? "" : line.substr(comma + 1)};
+    return {line.substr(at + 1, close - at - 1), comma == kNone ? "" : line.substr(comma + 1)};
   }
   const size_t comma = line.find(',', at);
-  if (comma == std::string::npos) return {TrimBlanks(line.substr(at)), ""};
+  if (comma == kNone) return {TrimBlanks(line.substr(at)), {}};
   return {TrimBlanks(line.substr(at, comma - at)), line.substr(comma + 1)};
 }
 
-std::vector<std::string> SplitLines(const std::string& content) {
-  std::vector<std::string> lines;
+// Calls visit with each line of content, without its end (CR LF, CR or LF).
+template <typename Visit>
+void ForEachLine(std::string_view content, Visit&& visit) {
   size_t start = 0;
   while (start < content.size()) {
-    size_t end = content.find_first_of("\r\n", start);
-    if (end == std::string::npos) end = content.size();
-    lines.push_back(content.substr(start, end - start));
-    if (end < content.size() && content[end] == '\r' && end + 1 < content.size() &&
-        content[end + 1] == '\n') {
-      ++end;
-    }
+    size_t end = start;
+    while (end < content.size() && content[end] != '\r' && content[end] != '\n') ++end;
+    visit(content.substr(start, end - start));
+    if (end + 1 < content.size() && content[end] == '\r' && content[end + 1] == '\n') ++end;
     start = end + 1;
   }
-  return lines;
+}
+
+// Sorted by key with one item per key holding the value added last: the
+// store that adding the items one by one in this order gives, in
+// O(n log n) instead of one insertion into the middle per item.
+std::vector<cSHAREDSetting> SortedLastValueWins(std::vector<cSHAREDSetting> items) {
+  std::stable_sort(items.begin(), items.end(),
+                   [](const auto& a, const auto& b) { return a.KeyName < b.KeyName; });
+  std::vector<cSHAREDSetting> unique;
+  unique.reserve(items.size());
+  for (cSHAREDSetting& item : items) {
+    if (!unique.empty() && unique.back().KeyName == item.KeyName) {
+      unique.back().KeyValue = std::move(item.KeyValue);
+    } else {
+      unique.push_back(std::move(item));
+    }
+  }
+  return unique;
+}
+
+bool HoldsLineEnd(const std::string& text) {
+  return text.find_first_of("\r\n") != std::string::npos;
+}
+
+// The file's lines for the items; an item whose key or value holds a line end
+// is left out, since its line would split into two on loading.
+std::string FileContent(const std::vector<cSHAREDSetting>& items, int& left_out) {
+  std::string content;
+  left_out = 0;
+  for (const cSHAREDSetting& item : items) {
+    const std::string key = WithoutCommas(UpperCase(item.KeyName));
+    const std::string value = item.KeyValue.ToText();
+    if (HoldsLineEnd(key) || HoldsLineEnd(value)) {
+      ++left_out;
+      continue;
+    }
+    content += key;
+    content += ',';
+    content += value;
+    content += "\r\n";
+  }
+  return content;
 }
 
 }  // namespace
@@ -163,12 +203,11 @@ void cSHAREDSettings::SortSettings() {
 void cSHAREDSettings::SaveSettings(const std::string& path) const {
   try {
     if (!PrepareForOutput(path)) return;
-    std::string content;
-    for (const cSHAREDSetting& item : items_) {
-      content += WithoutCommas(UpperCase(item.KeyName));
-      content += ',';
-      content += item.KeyValue.ToText();
-      content += "\r\n";
+    int left_out = 0;
+    const std::string content = FileContent(items_, left_out);
+    if (left_out > 0) {
+      LogAction(std::to_string(left_out) + " setting(s) with a line end in the name or value" +
+                " not written to " + path);
     }
     WriteFileAtomically(path, content);
   } catch (const RuntimeError& error) {
@@ -181,20 +220,24 @@ void cSHAREDSettings::SaveSettings(const std::string& path) const {
 }
 
 void cSHAREDSettings::LoadSettings(const std::string& path) {
+  RemoveStaleTemporary(path);
   if (!FileExists(path)) return;
   std::string key;
   std::string value;
+  std::vector<cSHAREDSetting> read;
   try {
     const std::string content = ReadWholeFile(path);
     DeleteAllSettings();
     std::string previous_key;
-    for (const std::string& line : SplitLines(content)) {
-      std::tie(key, value) = SplitLine(line);
-      const std::string normal = UpperCase(TrimBlanks(key));
+    ForEachLine(content, [&](std::string_view line) {
+      const auto [key_field, value_field] = SplitLine(line);
+      key = key_field;
+      value = value_field;
+      std::string normal = UpperCase(TrimBlanks(key));
       const bool skip = normal.empty() || normal == previous_key;
-      previous_key = normal;
-      if (!skip) AddSetting(key, ParseSettingText(value));
-    }
+      previous_key = std::move(normal);
+      if (!skip) read.push_back({WithoutCommas(key), ParseSettingText(value)});
+    });
   } catch (const RuntimeError& error) {
     LogAction("Error " + std::to_string(error.number()) + " in line: " + key + "," + value +
               " of " + path);
@@ -202,7 +245,8 @@ void cSHAREDSettings::LoadSettings(const std::string& path) {
   } catch (...) {
     RecordCurrentException("loadsettings", kModule);
   }
-  SortSettings();
+  // Lines read before a failure stay in the store.
+  if (!read.empty()) items_ = SortedLastValueWins(std::move(read));
 }
 
 }  // namespace vireo

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "prefs/settings_get_set.h"
+#include "prefs/preference_ranges.h"
 #include "render/surface.h"
 #include "render/surface_text.h"
 #include "support/error_trap.h"
@@ -107,10 +107,10 @@ EdgeLines DrawLines(double window_width, double window_height, ControlBar bar, d
 
 void SetPageBorders(Surface& page0, double font_size, PageTextArea& area) {
   Trap("sub setpageborders", kModule, [&] {
-    area.left_border = sget("LeftBorder", 400).ToNumber();
-    area.right_border = sget("RightBorder", 400).ToNumber();
-    area.top_border = sget("TopBorder", 300).ToNumber();
-    area.bottom_border = sget("BottomBorder", 550).ToNumber();
+    area.left_border = ReadNumberPreference(LeftBorderPreference());
+    area.right_border = ReadNumberPreference(RightBorderPreference());
+    area.top_border = ReadNumberPreference(TopBorderPreference());
+    area.bottom_border = ReadNumberPreference(BottomBorderPreference());
     area.text_width = page0.ScaleWidth() - (area.left_border + area.right_border);
     area.text_height = page0.ScaleHeight() - (area.top_border + area.bottom_border);
     page0.SetFontSize(font_size);

@@ -129,7 +129,8 @@ struct PageTextArea {
 };
 
 // Reads "LeftBorder", "RightBorder", "TopBorder" and "BottomBorder" (defaults
-// 400, 400, 300, 550) and recomputes area from page 0's surface after setting
+// 400, 400, 300, 550; a border outside the settings dialog's limits falls
+// back to its default) and recomputes area from page 0's surface after setting
 // its font size to font_size points. An error (a wrong-typed border, a line
 // count beyond 16 bits) is logged ("sub setpageborders", "frmMain") and the
 // values not reached keep what they held.

@@ -60,6 +60,26 @@ void WriteAndSync(FILE* file, const std::string& content) {
 #endif
 }
 
+// The file path finally names, following symbolic links (a link to a file
+// not yet made names that file); path itself when it is no link or the links
+// cannot be followed.
+std::filesystem::path ResolvedTarget(const std::string& path) {
+  constexpr int kMostLinks = 40;  // a longer chain is taken for a loop
+  std::filesystem::path current = path;
+  for (int followed = 0; followed < kMostLinks; ++followed) {
+    std::error_code error;
+    if (!std::filesystem::is_symlink(current, error)) return current;
+    const std::filesystem::path next = std::filesystem::read_symlink(current, error);
+    if (error) return path;
+    current = next.is_absolute() ? next : current.parent_path() / next;
+  }
+  return path;
+}
+
+std::string TemporaryBeside(const std::filesystem::path& target) {
+  return target.string() + ".tmp";
+}
+
 }  // namespace
 
 std::string ReadWholeFile(const std::string& path) {
@@ -86,8 +106,21 @@ bool PrepareForOutput(const std::string& path) {
   return false;
 }
 
+std::string TemporaryPathFor(const std::string& path) {
+  return TemporaryBeside(ResolvedTarget(path));
+}
+
+void RemoveStaleTemporary(const std::string& path) {
+  std::error_code error;
+  std::filesystem::remove(TemporaryPathFor(path), error);  // a link itself, never what it names
+}
+
 void WriteFileAtomically(const std::string& path, const std::string& content) {
-  const std::string temporary = path + ".tmp";
+  const std::filesystem::path target = ResolvedTarget(path);
+  const std::string temporary = TemporaryBeside(target);
+  // A stale temporary that is a link would send the bytes where it points.
+  std::error_code stale;
+  std::filesystem::remove(temporary, stale);
   FILE* file = std::fopen(temporary.c_str(), "wb");
   if (file == nullptr) throw RuntimeError(WriteError(errno));
   try {
@@ -99,7 +132,7 @@ void WriteFileAtomically(const std::string& path, const std::string& content) {
     file = nullptr;
     if (BeforeRenameHook()) BeforeRenameHook()();
     std::error_code error;
-    std::filesystem::rename(temporary, path, error);
+    std::filesystem::rename(temporary, target, error);
     if (error) throw RuntimeError(ErrorNumber::kPathFileAccess);
   } catch (...) {
     if (file != nullptr) std::fclose(file);

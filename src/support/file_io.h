@@ -15,11 +15,21 @@ std::string ReadWholeFile(const std::string& path);
 // can't update it" and returns false.
 bool PrepareForOutput(const std::string& path);
 
-// Replaces path with content atomically: the bytes go to a temporary file in
-// the same folder, are flushed to disk, and the temporary is renamed over
-// path. On any failure the temporary is removed, path is left as it was, and
-// RuntimeError 61 (disk full) or 75 (access) is thrown.
+// Replaces path with content atomically: the bytes go to a temporary file
+// (TemporaryPathFor), are flushed to disk, and the temporary is renamed over
+// the file. When path is a symbolic link, the file it points to is replaced
+// and the link stays a link. On any failure the temporary is removed, the
+// file is left as it was, and RuntimeError 61 (disk full) or 75 (access) is
+// thrown.
 void WriteFileAtomically(const std::string& path, const std::string& content);
+
+// The temporary an atomic write of path uses: ".tmp" added to the name of
+// the file that path finally points to, in that file's folder.
+std::string TemporaryPathFor(const std::string& path);
+
+// Removes the temporary a write of path left behind when the program was
+// killed before its rename; nothing happens when there is none.
+void RemoveStaleTemporary(const std::string& path);
 
 // Test seams: a hook run just before the rename (throw from it to simulate a
 // crash), and the function that lifts the read-only attribute.

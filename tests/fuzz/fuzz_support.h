@@ -1,10 +1,13 @@
 #pragma once
 
+#include <unistd.h>
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 
 #include "layout/font_metrics.h"
 #include "support/logging.h"
@@ -45,6 +48,23 @@ clsFontMetrics SeededTables(uint32_t seed, WidthOf width_of) {
     metrics.SetTable(style & 1, style & 2, table);
   }
   return metrics;
+}
+
+// A scratch file of this process for a target that reads its input from a
+// file, named after the target; in memory where the system offers it, since
+// saves flush to disk.
+inline std::string ScratchPath(const std::string& target) {
+  const char* folder = access("/dev/shm", W_OK) == 0 ? "/dev/shm" : "/tmp";
+  return std::string(folder) + "/vireo-" + target + "-fuzz-" + std::to_string(getpid());
+}
+
+// Writes the input to path; false when the file cannot be made.
+inline bool WriteInput(const std::string& path, const uint8_t* data, size_t size) {
+  FILE* file = std::fopen(path.c_str(), "wb");
+  if (file == nullptr) return false;
+  std::fwrite(data, 1, size, file);
+  std::fclose(file);
+  return true;
 }
 
 }  // namespace vireo::fuzz

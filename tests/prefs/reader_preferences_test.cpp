@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "prefs/preference_ranges.h"
 #include "prefs/settings_get_set.h"
 #include "prefs/shared_settings.h"
 #include "support/logging.h"
@@ -105,6 +106,36 @@ TEST_F(ReaderPreferencesTest, AWrongTypedValueIsLoggedAndTheRestAreRead) {
   EXPECT_EQ(std::count(Actions().text.begin(), Actions().text.end(),
                        "Type mismatch in sub readsettings(13) of module frmMain"),
             2);
+}
+
+TEST_F(ReaderPreferencesTest, ValuesAtTheLimitsAreKeptAndBeyondThemReplacedByTheDefault) {
+  const struct {
+    NumberPreference preference;
+    double value;
+    bool kept;
+  } cases[] = {
+      {FontSizePreference(), 6, true},
+      {FontSizePreference(), 5, false},
+      {FontSizePreference(), 48, true},
+      {FontSizePreference(), 49, false},
+      {LeftBorderPreference(), 100, true},
+      {LeftBorderPreference(), 1001, false},
+      {BottomBorderPreference(), 150, false},
+      {BottomBorderPreference(), 200, true},
+      {TextureNumPreference(), -1, true},
+      {TextureNumPreference(), -2, false},
+      {TextureNumPreference(), 3, true},
+      {TextureNumPreference(), 4, false},
+      {ColourPreference("InkColour", 0), 0xFFFFFF, true},
+      {ColourPreference("InkColour", 0), 0x1000000, false},
+  };
+  for (const auto& c : cases) {
+    sset(c.preference.key, c.value);
+    const double read = ReadNumberPreference(c.preference);
+    EXPECT_EQ(read, c.kept ? c.value : c.preference.default_value) << c.preference.key << c.value;
+    EXPECT_EQ(GlobalSettings()->SettingPresent(c.preference.key), c.kept)
+        << "a rejected value is not saved again";
+  }
 }
 
 TEST_F(ReaderPreferencesTest, StoredPreferencesAreReadBackAtTheNextStart) {

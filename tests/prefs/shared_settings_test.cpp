@@ -3,10 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <random>
+#include <utility>
+#include <vector>
 
 #include "support/file_io.h"
 #include "support/logging.h"
 #include "support/runtime_error.h"
+#include "support/text_helpers.h"
 #include "test_support.h"
 
 namespace vireo {
@@ -66,6 +70,45 @@ TEST_F(SettingsFileTest, LoadSkipsAdjacentDuplicatesAndBlankKeysButLaterLinesWin
   EXPECT_EQ(store_.RetrieveSetting("E"), SettingValue(false));
   EXPECT_EQ(store_.RetrieveSetting("Q").ToText(), "quoted");
   EXPECT_EQ(store_.SettingsCount(), 6);
+}
+
+// The file the store saves after adding each line's item in file order, the
+// way settings were once loaded: a line whose key (blanks trimmed) is blank
+// or, upper-cased, repeats the previous line's is skipped.
+std::string SavedByInsertion(const std::vector<std::pair<std::string, std::string>>& lines,
+                             const std::string& path) {
+  cSHAREDSettings store;
+  std::string previous;
+  for (const auto& [field, value] : lines) {
+    const size_t first = field.find_first_not_of(' ');
+    const std::string key = first == std::string::npos ? "" : field.substr(first);
+    const bool skip = key.empty() || UpperCase(key) == previous;
+    previous = UpperCase(key);
+    if (!skip) store.AddSetting(key, ParseSettingText(value));
+  }
+  store.SaveSettings(path);
+  return test::ReadFile(path);
+}
+
+TEST_F(SettingsFileTest, LoadingKeepsTheOrderAndDuplicateRulesOfAddingLineByLine) {
+  std::mt19937 random(12);
+  const std::vector<std::string> keys = {"A", "a", "B", "AB", "b", "ZED", "", "  ", " C", "Ab"};
+  for (int round = 0; round < 60; ++round) {
+    std::vector<std::pair<std::string, std::string>> lines;
+    std::string file;
+    const int count = std::uniform_int_distribution<>(0, 30)(random);
+    for (int i = 0; i < count; ++i) {
+      const std::string& key = keys[random() % keys.size()];
+      const std::string value = random() % 5 == 0 ? " true " : std::to_string(i) + ",x";
+      lines.emplace_back(key, value);
+      file += key + "," + value + "\r\n";
+    }
+    test::WriteFile(Path(), file);
+    cSHAREDSettings loaded;
+    loaded.LoadSettings(Path());
+    loaded.SaveSettings(Path());
+    ASSERT_EQ(test::ReadFile(Path()), SavedByInsertion(lines, folder_.File("model.ini"))) << file;
+  }
 }
 
 TEST_F(SettingsFileTest, RetrieveWithDefaultTreatsZeroAsAbsent) {

@@ -1,0 +1,193 @@
+// Settings and bookmark files a stranger or a crash left behind, and a book
+// with an odd file name: the real reader starts on them within a time limit,
+// quits cleanly and leaves whole, sane files.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "e2e/program_runner.h"
+
+namespace vireo {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+using testing::Not;
+
+// A generous limit: a run on the huge files below takes about 15 s under the
+// sanitizers on a busy machine, 3 s without; a quadratic load took 100 s
+// without them.
+constexpr int kSecondsAllowed = 90;
+
+// The word as one shell word: in single quotes, which keep line feeds.
+std::string ShellWord(const std::string& word) {
+  std::string quoted = "'";
+  for (const char c : word) quoted += c == '\'' ? std::string("'\\''") : std::string(1, c);
+  return quoted + "'";
+}
+
+std::vector<std::string> Lines(const std::string& content) {
+  std::vector<std::string> lines;
+  size_t start = 0;
+  for (size_t end; (end = content.find("\r\n", start)) != std::string::npos; start = end + 2) {
+    lines.push_back(content.substr(start, end - start));
+  }
+  if (start < content.size()) lines.push_back(content.substr(start));
+  return lines;
+}
+
+class HostileSettings : public testing::Test {
+ protected:
+  // Makes an ebook called name in the program folder.
+  void MakeBook(const std::string& name) {
+    std::string text;  // long enough for a second page, whose start is the bookmark
+    for (int line = 0; line < 100; ++line) text += "A line of the book with a few words in it.\r\n";
+    test::WriteFile(program_.Path("book.txt"), text);
+    const auto made =
+        test::Run(program_.Path("vireo-tool") + " make " + program_.Path("book.txt") + " -o " +
+                      ShellWord(program_.Path(name)) + " --stub " + program_.Path("Vireo"),
+                  {}, program_.folder());
+    ASSERT_EQ(made.status, 0) << made.err;
+  }
+
+  // Runs the program, which quits as soon as it has started.
+  void StartAndQuit(const std::string& program = "Vireo") {
+    const auto run = test::RunWithin(kSecondsAllowed, ShellWord(program_.Path(program)),
+                                     test::Unattended(program_.folder(), {"VIREO_QUIT_AFTER_MS=0"}),
+                                     program_.folder());
+    ASSERT_EQ(run.status, 0) << run.err;
+    ASSERT_THAT(program_.Log(), HasSubstr("Shutdown\r\n"));
+  }
+
+  // Runs the program and kills it, with no chance to save, once it has started.
+  void StartAndKill(const std::string& program) {
+    const std::string script = ShellWord(program_.Path(program)) + " & pid=$!; until grep -qs " +
+                               "'Startup complete' " + program_.Path("log.txt") +
+                               "; do sleep 0.1; done; kill -KILL $pid";
+    const auto run = test::RunWithin(kSecondsAllowed, "sh -c " + ShellWord(script),
+                                     test::Unattended(program_.folder()), program_.folder());
+    ASSERT_EQ(run.status, 0) << run.err;
+  }
+
+  std::string Read(const std::string& name) const { return test::ReadFile(program_.Path(name)); }
+
+  test::ProgramFolder program_;
+};
+
+TEST_F(HostileSettings, HugeFilesInDescendingOrderLoadAndAreSavedSorted) {
+  constexpr int kKeys = 200'000;
+  std::string descending;
+  for (int i = kKeys; i >= 1; --i) {
+    descending += "KEY" + std::to_string(1'000'000 + i) + "," + std::to_string(i) + "\r\n";
+  }
+  for (const char* file : {"Vireo.ini", "BookMarks.ini"}) {
+    SCOPED_TRACE(file);
+    test::WriteFile(program_.Path(file), descending);
+    StartAndQuit();
+    const std::vector<std::string> lines = Lines(Read(file));
+    EXPECT_GE(lines.size(), size_t{kKeys});
+    EXPECT_EQ(std::adjacent_find(lines.begin(), lines.end(), std::greater_equal<>()), lines.end())
+        << "strictly ascending";
+    EXPECT_THAT(lines, testing::Contains("KEY1000001,1"));
+    EXPECT_THAT(lines, testing::Contains("KEY1200000,200000"));
+    fs::remove(program_.Path(file));
+  }
+}
+
+TEST_F(HostileSettings, OutOfRangePreferencesFallBackToTheDefaultsAndAreNotWrittenBack) {
+  struct Case {
+    std::string key;
+    std::string value;
+    std::string saved;  // the line at exit; "" when the key is gone or its value not known
+  };
+  const std::vector<Case> cases = {
+      {"FONTSIZE", "-5", "FONTSIZE,10"}, {"LEFTBORDER", "99999", ""},
+      {"TOPBORDER", "99", ""},           {"RIGHTBORDER", "100", "RIGHTBORDER,100"},
+      {"BOTTOMBORDER", "150", ""},       {"TEXTURENUM", "44359", ""},
+      {"PAGESWEEPWIDTH", "0", ""},       {"WINHEIGHT", "-1", ""},
+      {"WINWIDTH", "1e300", ""},         {"HLCOLOUR", "16777216", "HLCOLOUR,45056"},
+  };
+  std::string settings;
+  for (const Case& c : cases) settings += c.key + "," + c.value + "\r\n";
+  test::WriteFile(program_.Path("Vireo.ini"), settings);
+  StartAndQuit();
+  const std::vector<std::string> saved = Lines(Read("Vireo.ini"));
+  const std::string log = program_.Log();
+  for (const Case& c : cases) {
+    const std::string line = c.key + "," + c.value;
+    if (!c.saved.empty()) {
+      EXPECT_THAT(saved, testing::Contains(c.saved));
+    }
+    if (c.saved == line) continue;  // in range
+    EXPECT_THAT(saved, Not(testing::Contains(line)));
+    EXPECT_THAT(log, HasSubstr(c.key + " " + c.value + " is outside "));
+  }
+}
+
+TEST_F(HostileSettings, SavesKeepSymbolicLinksAndAStartRemovesStaleTemporaries) {
+  MakeBook("Novel");
+  for (const bool linked : {false, true}) {
+    SCOPED_TRACE(linked ? "linked files" : "plain files");
+    fs::create_directories(program_.Path("real"));
+    const std::string settings =
+        linked ? program_.Path("real/settings.ini") : program_.Path("Vireo.ini");
+    const std::string bookmarks =
+        linked ? program_.Path("real/marks.ini") : program_.Path("BookMarks.ini");
+    if (linked) {
+      fs::create_symlink("real/settings.ini", program_.Path("Vireo.ini"));
+      fs::create_symlink(bookmarks, program_.Path("BookMarks.ini"));
+    }
+    test::WriteFile(settings, "OLD,1\r\n");
+    test::WriteFile(bookmarks, "other book,5000\r\n");  // saved upper-cased
+    test::WriteFile(settings + ".tmp", "left by a killed save");
+    test::WriteFile(bookmarks + ".tmp", "left by a killed save");
+
+    StartAndKill("Novel");
+    EXPECT_FALSE(test::FileExists(settings + ".tmp"));
+    EXPECT_FALSE(test::FileExists(bookmarks + ".tmp"));
+
+    StartAndQuit("Novel");
+    EXPECT_EQ(fs::is_symlink(program_.Path("Vireo.ini")), linked);
+    EXPECT_EQ(fs::is_symlink(program_.Path("BookMarks.ini")), linked);
+    EXPECT_THAT(test::ReadFile(settings), HasSubstr("OLD,1\r\n"));
+    EXPECT_THAT(test::ReadFile(settings), HasSubstr("FONTSIZE,10\r\n"));
+    EXPECT_EQ(test::ReadFile(bookmarks).substr(0, 6), "NOVEL,");
+    EXPECT_THAT(test::ReadFile(bookmarks), HasSubstr("\nOTHER BOOK,5000\r\n"));
+    EXPECT_FALSE(test::FileExists(settings + ".tmp"));
+    for (const char* name : {"Vireo.ini", "BookMarks.ini", "real", "log.txt"}) {
+      fs::remove_all(program_.Path(name));
+    }
+  }
+}
+
+TEST_F(HostileSettings, AnOddBookNameStaysOneArgumentOnOneLine) {
+  const std::string name = "Odd \"name\" $HOME `id` 100% back\\slash\nExec=evil\nfeeds";
+  MakeBook(name);
+  StartAndQuit(name);
+
+  const std::string entry =
+      test::ReadFile(program_.folder().File("xdg/applications/vireo.desktop"));
+  const std::string exec =
+      "Exec=\"" + program_.folder().str() +
+      R"(/Odd \\"name\\" \\$HOME \\`id\\` 100%% back\\\\slash\nExec=evil\nfeeds" %f)";
+  EXPECT_THAT(entry, HasSubstr("\n" + exec + "\n"));
+  size_t exec_lines = 0;
+  for (size_t at = 0; (at = entry.find("\nExec=", at)) != std::string::npos; ++at) ++exec_lines;
+  EXPECT_EQ(exec_lines, 1u) << entry;
+
+  EXPECT_THAT(program_.Log(), HasSubstr("1 setting(s) with a line end in the name or value not "
+                                        "written to " +
+                                        program_.Path("BookMarks.ini")));
+  const std::string marks = Read("BookMarks.ini");
+  for (const std::string& line : Lines(marks)) {
+    EXPECT_THAT(line, testing::MatchesRegex("[^,\r\n]+,-?[0-9]+")) << marks;
+  }
+}
+
+}  // namespace
+}  // namespace vireo
