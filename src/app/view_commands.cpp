@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "prefs/preference_ranges.h"
 #include "prefs/settings_get_set.h"
 #include "support/error_trap.h"
 #include "support/translation.h"
@@ -146,8 +147,10 @@ void ViewCommands::UpdateBookMode(bool save_size) {
     }
     if (view.State() == WindowState::kNormal) {
       context_.resizing = true;
-      view.SetWindowWidth(sget(entering.width, current.width).ToNumber());
-      view.SetWindowHeight(sget(entering.height, current.height).ToNumber());
+      view.SetWindowWidth(
+          ReadNumberPreference(WindowWidthPreference(entering.width, current.width)));
+      view.SetWindowHeight(
+          ReadNumberPreference(WindowHeightPreference(entering.height, current.height)));
       context_.resizing = false;
     }
     context_.reading.mode = single ? PageMode::kSingle : PageMode::kDouble;
