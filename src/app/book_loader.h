@@ -9,8 +9,8 @@ namespace vireo {
 
 // Opening a book file: read it, find the markers, unpack and reformat it
 // (progress shown on the window's progress display), take the reading
-// position from the bookmarks and paginate it there. The design's LoadFile;
-// its errors are logged under "sub loadfile" of "frmMain".
+// position from the bookmarks and paginate it there
+// (LoadFile). Its errors are logged under "sub loadfile" of "frmMain".
 class BookLoader {
  public:
   BookLoader(ReaderContext& context, BookSession& session);

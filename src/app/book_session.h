@@ -13,8 +13,8 @@ namespace vireo {
 // The open book: its file, author and title, the window caption, the
 // reading position kept in the bookmarks, and its pagination with the
 // paginator's events (the first spread drawn as soon as it is paginated,
-// the page count on the control bar). Errors are logged under the design's
-// procedure names of module "frmMain".
+// the page count on the control bar). Errors are logged under their procedures'
+// logged names of module "frmMain".
 class BookSession : public ReindexEvents {
  public:
   BookSession(ReaderContext& context, BookSpread& spread);

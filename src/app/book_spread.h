@@ -14,7 +14,7 @@ namespace vireo {
 // The pages on show and the machinery that draws and turns them: the
 // composer, the page plotter, the page cache, the turns and page
 // navigation, laid out for the window's size and page mode. Errors are
-// logged under the design's procedure names of module "frmMain".
+// logged under their procedures' logged names of module "frmMain".
 class BookSpread {
  public:
   explicit BookSpread(ReaderContext& context);

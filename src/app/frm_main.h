@@ -15,7 +15,7 @@ namespace vireo {
 // The main window's logic, in rooms:
 //   spread()      the pages on show: drawing, the cache, turns, layout, font
 //   book()        the open book: caption, bookmarks, pagination and its events
-//   loader()      opening a book file (the design's LoadFile)
+//   loader()      opening a book file (LoadFile)
 //   search()      the search term, Find Next and Find Previous
 //   view_commands() font size and style, the bar, resizing, the page mode
 //   commands()    keys, menus, the mouse on the pages, dropped files

@@ -13,7 +13,7 @@ namespace vireo {
 // The program's start-up sequence and its end: the helper library, the
 // settings, the textures, the preferences, the empty book, the program's
 // own book; storing the preferences and the bookmark and closing every
-// window. Errors are logged under the design's procedure names of module
+// window. Errors are logged under their procedures' logged names of module
 // "frmMain".
 class ProgramLifecycle {
  public:

@@ -17,7 +17,7 @@ namespace vireo {
 
 // The reader's commands from keys, menus, the mouse on the pages and
 // dropped files, carried out on the other rooms. Errors are logged under
-// the design's procedure names of module "frmMain".
+// their procedures' logged names of module "frmMain".
 class ReaderCommands {
  public:
   ReaderCommands(ReaderContext& context, BookSpread& spread, BookSession& session,

@@ -11,8 +11,8 @@
 namespace vireo {
 
 // The search on the control bar: the term (the search label's caption),
-// Find Next and Find Previous. Errors are logged under the design's
-// procedure names of module "frmMain".
+// Find Next and Find Previous. Errors are logged under their procedures'
+// logged names of module "frmMain".
 class SearchCommands {
  public:
   SearchCommands(ReaderContext& context, BookSpread& spread, const BookSession& session);

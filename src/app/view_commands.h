@@ -10,8 +10,8 @@ namespace vireo {
 
 // The commands that change how the book is laid out: the font size and
 // style, the control bar, the window's size and the page mode. Each stores
-// the bookmark and re-paginates the book at it. Errors are logged under the
-// design's procedure names of module "frmMain".
+// the bookmark and re-paginates the book at it. Errors are logged under their
+// procedures' logged names of module "frmMain".
 class ViewCommands {
  public:
   ViewCommands(ReaderContext& context, BookSpread& spread, BookSession& session);

@@ -11,7 +11,7 @@ namespace vireo {
 // The window-side effects of the reader's preferences: the font, the
 // formatting flags and their menu ticks, the page colours and the window's
 // size, as the preference reader applies them one by one and the commands
-// change them. Errors are logged under the design's procedure names of
+// change them. Errors are logged under their procedures' logged names of
 // module "frmMain".
 class WindowPreferences : public PreferencesHost {
  public:
