@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 
+#include "layout/image_lines.h"
 #include "layout/long_word.h"
 #include "layout/reindex.h"
 #include "layout/word_run.h"
@@ -24,27 +25,6 @@ constexpr size_t kNone = std::numeric_limits<size_t>::max();
 constexpr int32_t kProgressStep = 25;
 constexpr int32_t kPagesBeyondReader = 3;
 constexpr int32_t kFirstPassedPageCount = 5;
-constexpr auto kDivisionByZero = static_cast<ErrorNumber>(11);
-
-// The number after the first "=" of a placeholder word; it ends at the first
-// non-digit, and a number too large for any image saturates.
-int32_t ImageNumber(std::string_view word) {
-  const size_t equals = word.find('=');
-  int64_t number = 0;
-  if (equals == std::string_view::npos) return 0;
-  for (size_t i = equals + 1; i < word.size() && word[i] >= '0' && word[i] <= '9'; ++i) {
-    number = number * 10 + (word[i] - '0');
-    if (number > std::numeric_limits<int32_t>::max()) return std::numeric_limits<int32_t>::max();
-  }
-  return static_cast<int32_t>(number);
-}
-
-// Image lines: the image height in lines plus one, rounded to a 16-bit count.
-Int16 ImageLines(double height, double line_height) {
-  if (line_height == 0 && height != 0) throw RuntimeError(kDivisionByZero, "Division by zero");
-  if (line_height == 0) throw RuntimeError(ErrorNumber::kOverflow);
-  return Int16::FromDouble(height / line_height + 1);
-}
 
 }  // namespace
 
@@ -256,9 +236,6 @@ bool PaginationPass::HoldsImage() const {
   return View(word_).find(kImageTag) != std::string_view::npos;
 }
 
-// Step 3: blank lines for the image, on this page or at the top of the next,
-// inserted after the placeholder; the placeholder itself then counts as an
-// empty word. A placeholder the image store does not know stays text.
 int32_t PaginationPass::WordImageNumber() {
   if (!from_leftover_ || word_.zero) return ImageNumber(View(word_));
   // Every piece's rest runs to the end of the split word, so the number after
@@ -273,6 +250,9 @@ int32_t PaginationPass::WordImageNumber() {
   return split_equals_ < end ? split_image_number_ : 0;
 }
 
+// Step 3: blank lines for the image, on this page or at the top of the next,
+// inserted after the placeholder; the placeholder itself then counts as an
+// empty word. A placeholder the image store does not know stays text.
 void PaginationPass::PlaceImage() {
   const int32_t number = WordImageNumber();
   std::optional<double> height;
