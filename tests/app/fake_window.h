@@ -12,59 +12,12 @@
 #include "app/headless_window.h"
 #include "book/book_maker.h"
 #include "fake_pump.h"
-#include "fake_surface.h"
 #include "prefs/settings_get_set.h"
+#include "render/fake_page_buffers.h"
 #include "support/logging.h"
 #include "test_support.h"
 
 namespace vireo::test {
-
-// Page buffers without a screen: fixed-width fake surfaces of the laid-out page size.
-class FakePageBuffers : public PageBuffers {
- public:
-  void ApplyLayout(const BookViewLayout& applied) override {
-    layout = applied;
-    for (FakeSurface& box : boxes) {
-      box.width = applied.page_width;
-      box.height = applied.page_height;
-    }
-  }
-  double FrameWidth(int frame) const override { return layout.page_frames.at(frame).width; }
-  Surface& Box(int box) override { return boxes.at(static_cast<size_t>(box)); }
-  void SetBoxBackColour(int, uint32_t) override {}
-  void SetBoxTexture(int box, std::optional<int>) override { Box(box).Clear(); }
-  bool LoadTexture(int, const std::string&) override { return true; }
-  void CopyBox(int source, int destination) override {
-    boxes.at(destination).runs = boxes.at(source).runs;
-  }
-  void StretchBox(int source, int destination, double) override { CopyBox(source, destination); }
-  void RefreshBox(int) override {}
-  void SetBoxWidth(int, double) override {}
-  void SetBoxLeft(int, double) override {}
-  void SetBoxVisible(int, Visibility) override {}
-  void RaiseBox(int) override {}
-  void SetLamp(Lamp lamp) override { lamps.push_back(lamp); }
-  void SetLineMarker(int frame, double top, double) override {
-    marker_frame = frame;
-    marker_top = top;
-  }
-  TwipsSize LanguageListSize() const override { return {1650, 540}; }
-  void PlaceLanguageList(const LanguageListPlacement&) override {}
-  void SetLanguageListVisible(bool) override {}
-
-  // Everything drawn on a box, its runs joined by blanks.
-  std::string Text(int box) const {
-    std::string text;
-    for (const auto& run : boxes.at(static_cast<size_t>(box)).runs) text += run.text + " ";
-    return text;
-  }
-
-  std::array<FakeSurface, kBoxCount> boxes;
-  BookViewLayout layout;
-  std::vector<Lamp> lamps;
-  int marker_frame = -1;
-  double marker_top = 0;
-};
 
 // The headless window, keeping every progress text (before and after the splash) and counting
 // the context menus it was asked to show.

@@ -117,20 +117,6 @@ inline void WhileWatching(const std::function<void()>& action, const std::functi
   watch.stop();
 }
 
-// Runs action and calls during() once while a pagination runs with the spread on show;
-// returns whether that moment came.
-inline bool DuringPagination(ReaderWindow& reader, const std::function<void()>& action,
-                             const std::function<void()>& during) {
-  bool called = false;
-  WhileWatching(action, [&] {
-    if (called || !reader.logic().paginator_busy() || reader.logic().reindexing()) return;
-    called = true;
-    during();
-  });
-  QApplication::processEvents();
-  return called;
-}
-
 // Whether the book was paginated while action ran.
 inline bool Repaginates(ReaderWindow& reader, const std::function<void()>& action) {
   bool seen = false;

@@ -11,7 +11,7 @@
 #include "prefs/reader_preferences.h"
 #include "prefs/settings_get_set.h"
 #include "render/book_pages.h"
-#include "render/page_buffers.h"
+#include "render/fake_page_buffers.h"
 #include "render/print_page.h"
 
 namespace vireo {
@@ -21,36 +21,6 @@ using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::Not;
-
-// Eight fixed-width page buffers of 6000 x 9000 twips, the texture calls in order.
-class FakeBuffers : public PageBuffers {
- public:
-  void ApplyLayout(const BookViewLayout&) override {}
-  double FrameWidth(int) const override { return 6000; }
-  Surface& Box(int box) override { return boxes.at(static_cast<size_t>(box)); }
-  void SetBoxBackColour(int, uint32_t) override {}
-  void SetBoxTexture(int box, std::optional<int> slot) override {
-    boxes.at(static_cast<size_t>(box)).Clear();
-    calls.push_back("texture " + std::to_string(box) + " " + std::to_string(slot.value_or(-1)));
-  }
-  bool LoadTexture(int, const std::string&) override { return true; }
-  void CopyBox(int, int) override {}
-  void StretchBox(int, int, double) override {}
-  void RefreshBox(int box) override { calls.push_back("refresh " + std::to_string(box)); }
-  void SetBoxWidth(int, double) override {}
-  void SetBoxLeft(int, double) override {}
-  void SetBoxVisible(int, Visibility) override {}
-  void RaiseBox(int) override {}
-  void SetLamp(Lamp) override {}
-  void SetLineMarker(int, double, double) override {}
-  TwipsSize LanguageListSize() const override { return {1500, 1200}; }
-  void PlaceLanguageList(const LanguageListPlacement& where) override { placement = where; }
-  void SetLanguageListVisible(bool) override {}
-
-  std::array<test::FakeSurface, kBoxCount> boxes;
-  std::vector<std::string> calls;
-  std::optional<LanguageListPlacement> placement;
-};
 
 // A book of 9 pages, "Text of page N" each.
 BookPages NinePages() {
@@ -75,7 +45,7 @@ class PagePlotterTest : public ::testing::Test {
   }
   ~PagePlotterTest() override { ResetGlobalSettings(); }
 
-  FakeBuffers boxes;
+  test::FakePageBuffers boxes;
   BookPages book = NinePages();
   ReaderPreferences prefs;
   test::RecordingPump pump;
