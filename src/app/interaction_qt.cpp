@@ -91,8 +91,7 @@ std::optional<std::string> StderrInteraction::AskText(std::string_view prompt,
 }
 
 // Unattended, nothing is ever confirmed, whatever the default.
-bool StderrInteraction::AskYesNo(std::string_view question, std::string_view title,
-                                 DefaultAnswer) {
+bool StderrInteraction::AskYesNo(std::string_view question, std::string_view title, DefaultAnswer) {
   WriteToStderr("question", title, question);
   return false;
 }

@@ -3,11 +3,11 @@
 #include <cstdio>
 #include <memory>
 
+#include "support/file_io.h"
 #include "support/logging.h"
 #include "support/maker.h"
 #include "support/platform.h"
 #include "support/runtime_error.h"
-#include "support/file_io.h"
 #include "support/translation.h"
 
 namespace vireo {
@@ -22,8 +22,8 @@ std::string InstructionLine() {
 
 // The mail link's own characters, and every byte outside printable ASCII.
 bool NeedsEncoding(unsigned char byte) {
-  return byte <= ' ' || byte >= 0x7F || std::string_view("%&#?+=\"<>").find(static_cast<char>(
-                                            byte)) != std::string_view::npos;
+  return byte <= ' ' || byte >= 0x7F ||
+         std::string_view("%&#?+=\"<>").find(static_cast<char>(byte)) != std::string_view::npos;
 }
 
 std::string PercentEncoded(std::string_view text) {
@@ -73,7 +73,7 @@ std::string WriteReportFile(std::string_view folder, const ErrorReport& report) 
   const std::string path = JoinPath(folder, "fulllog.txt");
   const std::string text = ReportText(report);
   const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "wb"),
-                                                              std::fclose);
+                                                             std::fclose);
   if (!file || std::fwrite(text.data(), 1, text.size(), file.get()) != text.size()) {
     throw RuntimeError(ErrorNumber::kPathFileAccess);
   }

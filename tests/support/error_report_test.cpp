@@ -47,9 +47,9 @@ TEST(ErrorReport, LogBoxShowsTheLogOrSaysThereIsNone) {
 
 TEST(ErrorReport, MailLinkEncodesLineEndsAndTheLinksOwnCharacters) {
   const std::string link = ReportMailLink({"Bad & worse", "a\r\nb\nc", ""});
-  EXPECT_EQ(link.rfind("mailto:bugs@vireo-reader.example.org?subject=Bug%20Report%20(Vireo%20-%20",
-                       0),
-            0u);
+  EXPECT_EQ(
+      link.rfind("mailto:bugs@vireo-reader.example.org?subject=Bug%20Report%20(Vireo%20-%20", 0),
+      0u);
   EXPECT_NE(link.find("&body=If%20"), std::string::npos);
   EXPECT_NE(link.find("Bad%20%26%20worse%0D%0A%0D%0Aa%0D%0Ab%0D%0Ac"), std::string::npos);
   EXPECT_EQ(link.find_first_of("\r\n "), std::string::npos);
