@@ -35,6 +35,7 @@ void BookLoader::OpenBook(const std::string& path) {
       return;
     }
     session_.BookLoaded(std::move(book.text), std::move(book.author), std::move(book.title), path);
+    session_.SetStoredDetails(std::move(book.stored_title), book.stored_size);
     session_.ReadBookmark();
     LogAction("Reindexing file");
     session_.ReindexFile(true);

@@ -31,6 +31,11 @@ BookSession::BookSession(ReaderContext& context, BookSpread& spread)
   context_.reindex.SetMessagePump(&context_.pump);
 }
 
+void BookSession::SetStoredDetails(std::string stored_title, size_t stored_size) {
+  stored_title_ = std::move(stored_title);
+  stored_size_ = stored_size;
+}
+
 void BookSession::BookLoaded(std::string text, std::string author, std::string title,
                              std::string path) {
   path_ = std::move(path);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -46,6 +47,12 @@ class BookSession : public ReindexEvents {
   void FinishedReindex() override;
   void CurrentPage(int32_t page_count) override;
 
+  // What the book file says of the book: its stored title and the size of
+  // the packed book.
+  void SetStoredDetails(std::string stored_title, size_t stored_size);
+  const std::string& stored_title() const { return stored_title_; }
+  size_t stored_size() const { return stored_size_; }
+
   void SetCaption(std::string caption);
   const std::string& path() const { return path_; }
   const std::string& author() const { return author_; }
@@ -66,6 +73,8 @@ class BookSession : public ReindexEvents {
   std::string author_;
   std::string title_;
   std::string caption_;
+  std::string stored_title_;
+  size_t stored_size_ = 0;
   int version_ = 0;
   WindowSize size_at_reindex_;
   std::string page_label_;

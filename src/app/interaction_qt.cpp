@@ -1,6 +1,7 @@
 #include "app/interaction_qt.h"
 
 #include <QCoreApplication>
+#include <QDesktopServices>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QThread>
@@ -46,6 +47,16 @@ bool NonInteractiveMode() {
   return value != nullptr && *value != '\0' && std::string_view(value) != "0";
 }
 
+void OpenAddress(const QUrl& address) {
+  if (NonInteractiveMode()) {
+    const QString shown = address.isLocalFile() ? address.toLocalFile() : address.toString();
+    std::fprintf(stderr, "[open] %s\n", shown.toUtf8().constData());
+    std::fflush(stderr);
+    return;
+  }
+  QDesktopServices::openUrl(address);
+}
+
 void QtUserInteraction::ShowMessage(std::string_view text, std::string_view title) {
   QMessageBox::information(parent_, Text(title), Text(text));
 }
@@ -60,9 +71,12 @@ std::optional<std::string> QtUserInteraction::AskText(std::string_view prompt,
   return ToWindows1252(answer);
 }
 
-bool QtUserInteraction::AskYesNo(std::string_view question, std::string_view title) {
-  return QMessageBox::question(parent_, Text(title), Text(question),
-                               QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+bool QtUserInteraction::AskYesNo(std::string_view question, std::string_view title,
+                                 DefaultAnswer default_answer) {
+  return QMessageBox::question(
+             parent_, Text(title), Text(question), QMessageBox::Yes | QMessageBox::No,
+             default_answer == DefaultAnswer::kNo ? QMessageBox::No : QMessageBox::Yes) ==
+         QMessageBox::Yes;
 }
 
 void StderrInteraction::ShowMessage(std::string_view text, std::string_view title) {
@@ -76,7 +90,8 @@ std::optional<std::string> StderrInteraction::AskText(std::string_view prompt,
   return std::string(default_text);
 }
 
-bool StderrInteraction::AskYesNo(std::string_view question, std::string_view title) {
+// Unattended, nothing is ever confirmed, whatever the default.
+bool StderrInteraction::AskYesNo(std::string_view question, std::string_view title, DefaultAnswer) {
   WriteToStderr("question", title, question);
   return false;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QUrl>
 #include <QWidget>
 #include <functional>
 
@@ -15,7 +16,8 @@ class QtUserInteraction : public UserInteraction {
   void ShowMessage(std::string_view text, std::string_view title) override;
   std::optional<std::string> AskText(std::string_view prompt, std::string_view title,
                                      std::string_view default_text) override;
-  bool AskYesNo(std::string_view question, std::string_view title) override;
+  bool AskYesNo(std::string_view question, std::string_view title,
+                DefaultAnswer default_answer) override;
 
  private:
   QWidget* parent_;
@@ -28,7 +30,8 @@ class StderrInteraction : public UserInteraction {
   void ShowMessage(std::string_view text, std::string_view title) override;
   std::optional<std::string> AskText(std::string_view prompt, std::string_view title,
                                      std::string_view default_text) override;
-  bool AskYesNo(std::string_view question, std::string_view title) override;
+  bool AskYesNo(std::string_view question, std::string_view title,
+                DefaultAnswer default_answer) override;
 };
 
 // The Qt event loop as the core's message pump.
@@ -44,6 +47,11 @@ class QtMessagePump : public MessagePump {
  private:
   std::function<void()> pause_observer_;
 };
+
+// Opens a web page, a mail link or a file (in the desktop's viewer for it);
+// in the non-interactive mode writes "[open] " and the address or the file's
+// path to standard error instead.
+void OpenAddress(const QUrl& address);
 
 // True when VIREO_NONINTERACTIVE is set to anything but "" or "0".
 bool NonInteractiveMode();

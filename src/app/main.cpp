@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QSocketNotifier>
 #include <QTimer>
 
@@ -10,9 +11,12 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 
+#include "app/error_report_dialog.h"
 #include "app/interaction_qt.h"
 #include "app/main_window.h"
+#include "support/error_trap.h"
 #include "support/platform.h"
 
 #if !defined(_WIN32)
@@ -96,14 +100,31 @@ void PressKeys(vireo::MainWindow& window, std::string keys, std::function<void()
   });
 }
 
-// VIREO_SCREENSHOT=FILE.png: once started, save the window as a picture,
-// print its path and quit. VIREO_QUIT_AFTER_MS=N: quit N ms after start-up.
-// Both count from the end of the VIREO_KEYS.
+// VIREO_DIALOG=about|report: the about window, or the error-report form
+// for an example error, opened over the window (the screenshot shows it).
+QWidget* OpenDialog(vireo::MainWindow& window) {
+  const char* which = std::getenv("VIREO_DIALOG");
+  if (which == nullptr) return nullptr;
+  if (std::string_view(which) == "about") return window.help().ShowAbout();
+  if (std::string_view(which) != "report") return nullptr;
+  auto* form = new vireo::fSHAREDErrorRpt(window.logic().context().location.folder,
+                                          vireo::OpenAddress, &window);
+  form->setAttribute(Qt::WA_DeleteOnClose);
+  form->ShowError("Subscript out of range in sub showpage(9) of module frmMain");
+  form->show();
+  return form;
+}
+
+// VIREO_SCREENSHOT=FILE.png: once started, save the window (or the dialog of
+// VIREO_DIALOG) as a picture, print its path and quit. VIREO_QUIT_AFTER_MS=N:
+// quit N ms after start-up. Both count from the end of the VIREO_KEYS.
 void ScheduleAutomation(vireo::MainWindow& window) {
   if (const char* shot = std::getenv("VIREO_SCREENSHOT"); shot != nullptr && *shot != '\0') {
     const QString path = QString::fromLocal8Bit(shot);
-    QTimer::singleShot(300, &window, [&window, path] {
-      if (window.grab().save(path)) std::printf("%s\n", path.toLocal8Bit().constData());
+    QPointer<QWidget> dialog = OpenDialog(window);
+    QTimer::singleShot(300, &window, [&window, path, dialog] {
+      QWidget* shown = dialog ? dialog.data() : &window;
+      if (shown->grab().save(path)) std::printf("%s\n", path.toLocal8Bit().constData());
       std::fflush(stdout);
       window.logic().lifecycle().Quit();
     });
@@ -131,11 +152,17 @@ int main(int argc, char* argv[]) {
                            vireo::ProgramLocation{vireo::ProgramFolder(), vireo::ExecutablePath()});
   if (qt_user != nullptr) qt_user->set_parent(&window);
   const std::function<void()> started = QuitOnSignals(window);
-  if (!window.logic().lifecycle().Form_Load()) return 1;
+  vireo::SetErrorObserver(
+      [&window](const std::string& entry) { window.help().ErrorReached(entry); });
+  if (!window.logic().lifecycle().Form_Load()) {
+    vireo::SetErrorObserver(nullptr);
+    return 1;
+  }
   window.show();
   started();
   const char* keys = std::getenv("VIREO_KEYS");
   PressKeys(window, keys != nullptr ? keys : "", [&window] { ScheduleAutomation(window); });
   const int status = application.exec();
+  vireo::SetErrorObserver(nullptr);
   return window.end_status() >= 0 ? window.end_status() : status;
 }

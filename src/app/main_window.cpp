@@ -10,7 +10,6 @@
 #include <cstdlib>
 
 #include <QClipboard>
-#include <QDesktopServices>
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QKeyEvent>
@@ -47,7 +46,8 @@ MainWindow::MainWindow(UserInteraction& user, ProgramLocation location)
       bar_(new ControlBarWidget(canvas_)),
       menu_(new OptionsMenu(this)),
       progress_(new QLabel(canvas_)),
-      logic_(*this, *canvas_, user, pump_, std::move(location)) {
+      logic_(*this, *canvas_, user, pump_, std::move(location)),
+      help_(new HelpDialogs(this, logic_)) {
   setObjectName("frmMain");
   setWindowTitle("Vireo");
   setCentralWidget(canvas_);
@@ -114,6 +114,7 @@ void MainWindow::ConnectMenu() {
   on("mnuUnderscores", [&commands] { commands.mnuUnderscores_Click(); });
   on("mnuExtraLine", [&commands] { commands.mnuExtraLine_Click(); });
   on("mnuHelp", [&commands] { commands.mnuHelp_Click(); });
+  on("mnuReportProblem", [this] { help_->ReportProblem(); });
   on("mnuToggleBar", [this] {
     if (!logic_.paginator_busy()) logic_.view_commands().ToggleBar();
   });
@@ -127,10 +128,7 @@ void MainWindow::ConnectMenu() {
 // Menu items and buttons whose features come in later versions say so.
 void MainWindow::ConnectPlannedItems() {
   const auto say = [this](const char* text) { return [this, text] { Say(text); }; };
-  const auto about = [this] {
-    Say("Vireo " + AppVersion() + "\nMarrowind Software, " + std::string(kMakerCountry) + "\n" +
-        std::string(kMakerHomePage));
-  };
+  const auto about = [this] { help_->ShowAbout(); };
   connect(bar_->cmdAbout, &QPushButton::clicked, this, about);
   connect(menu_->Item("mnuAbout"), &QAction::triggered, this, about);
   connect(menu_->Item("mnuPrint"), &QAction::triggered, this,
@@ -156,13 +154,7 @@ void MainWindow::ConnectPlannedItems() {
 
 void MainWindow::Say(const std::string& text) { user_.ShowMessage(text, "Vireo"); }
 
-void MainWindow::OpenAddress(const QString& address) {
-  if (NonInteractiveMode()) {
-    std::fprintf(stderr, "[open] %s\n", address.toUtf8().constData());
-    return;
-  }
-  QDesktopServices::openUrl(QUrl(address));
-}
+void MainWindow::OpenAddress(const QString& address) { vireo::OpenAddress(QUrl(address)); }
 
 std::optional<int> MainWindow::PageDialogChooser::ChoosePage(int current_page, int page_count) {
   if (NonInteractiveMode()) {

@@ -8,6 +8,7 @@
 #include "app/book_canvas_widget.h"
 #include "app/control_bar_widget.h"
 #include "app/frm_main.h"
+#include "app/help_dialogs_qt.h"
 #include "app/interaction_qt.h"
 #include "app/options_menu_qt.h"
 #include "app/splash_window.h"
@@ -28,6 +29,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   BookCanvasWidget& canvas() { return *canvas_; }
   ControlBarWidget& bar() { return *bar_; }
   OptionsMenu& menu() { return *menu_; }
+  HelpDialogs& help() { return *help_; }
   SplashWindow* splash() const { return splash_.get(); }
   const QString& exit_caption() const { return exit_caption_; }
   // The status the program ended with (EndProgram), -1 while running.
@@ -73,7 +75,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   void OnPageMouse(int page, QEvent::Type type, Qt::MouseButton button,
                    Qt::KeyboardModifiers modifiers, double x, double y);
   void PlaceControlBar();
-  // A message box of the planned features and the about box.
+  // A message box of the planned features.
   void Say(const std::string& text);
 
   // The page dialog as Goto Page asks it; in the non-interactive mode it is
@@ -95,6 +97,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   OptionsMenu* menu_;
   QLabel* progress_;  // the loading status once the splash is gone
   frmMain logic_;
+  HelpDialogs* help_;
   std::unique_ptr<SplashWindow> splash_;
   QString exit_caption_;
   int end_status_ = -1;

@@ -38,6 +38,7 @@ OptionsMenu::OptionsMenu(QWidget* parent) : QMenu("Options", parent) {
   Add(this, "mnuGutenberg", "Gutenberg Books");
   addSeparator();
   Add(this, "mnuHelp", "Help");
+  Add(this, "mnuReportProblem", "Report a problem");
   addSeparator();
   Add(this, "mnuToggleBar", "Toggle menu bar");
   addSeparator();

@@ -172,7 +172,7 @@ void ReaderCommands::mnuErasefile_Click() {
     if (context_.font_guard || path.empty()) return;
     const std::string question = GetTranslation("Do you really want to erase") + " " + path + " " +
                                  GetTranslation("from your hard disk?");
-    if (!context_.user.AskYesNo(question, "Vireo")) return;
+    if (!context_.user.AskYesNo(question, "Vireo", DefaultAnswer::kNo)) return;
     // A file that cannot be deleted is logged, and the book is closed all
     // the same, as the handler goes on with its next statement.
     Trap("sub mnuerasefile_click", kModule, [&] {
@@ -185,7 +185,8 @@ void ReaderCommands::mnuErasefile_Click() {
 void ReaderCommands::mnuEraseBookmarks_Click() {
   Trap("sub mnuerasebookmarks_click", kModule, [&] {
     if (context_.user.AskYesNo(
-            GetTranslation("This will erase bookmarks for all files. Are you sure?"), "Vireo")) {
+            GetTranslation("This will erase bookmarks for all files. Are you sure?"), "Vireo",
+            DefaultAnswer::kNo)) {
       EraseAllBookmarks();
     }
   });

@@ -7,12 +7,26 @@
 
 namespace vireo {
 
+namespace {
+
+std::function<void(const std::string&)>& ErrorObserver() {
+  static std::function<void(const std::string&)> observer;
+  return observer;
+}
+
+}  // namespace
+
+void SetErrorObserver(std::function<void(const std::string& entry)> observer) {
+  ErrorObserver() = std::move(observer);
+}
+
 void RecordError(const RuntimeError& error, std::string_view procedure, std::string_view module) {
   std::string name(procedure);
   name += '(';
   name += std::to_string(error.number());
   name += ')';
   LogProc(error.description(), name, module);
+  if (ErrorObserver()) ErrorObserver()(ActionEntry(error.description(), name, module));
 }
 
 void RecordCurrentException(std::string_view procedure, std::string_view module) noexcept {

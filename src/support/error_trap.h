@@ -1,6 +1,8 @@
 #pragma once
 
 #include <exception>
+#include <functional>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -12,6 +14,10 @@ namespace vireo {
 // LogProc(description, "<procedure>(<number>)", module), for example
 // "Type mismatch in sub readsettings(13) of module frmMain".
 void RecordError(const RuntimeError& error, std::string_view procedure, std::string_view module);
+
+// Called with every error recorded by RecordError, as its action entry, so
+// that the program can offer the person an error report. Empty: none.
+void SetErrorObserver(std::function<void(const std::string& entry)> observer);
 
 // Maps any exception escaping a procedure body to a RuntimeError
 // (std::bad_alloc -> 7, std::out_of_range -> 9, other -> 5) and records it.

@@ -94,11 +94,15 @@ void WriteLines(const std::string& lines, LogFile mode) {
   RotateWhenLarge(path, size);
 }
 
-std::string Entry(std::string text, std::string_view procedure, std::string_view module) {
+}  // namespace
+
+std::string ActionEntry(std::string text, std::string_view procedure, std::string_view module) {
   if (!procedure.empty()) (text += " in ") += procedure;
   if (!module.empty()) (text += " of module ") += module;
   return text;
 }
+
+namespace {
 
 // Counts entry; false when it has been recorded often enough this run.
 bool Recordable(const std::string& entry) {
@@ -168,7 +172,7 @@ void LogAction(std::string_view text, LogFile file) {
 void LogProc(std::string_view text, std::string_view procedure, std::string_view module) {
   if (State().disabled) return;
   try {
-    std::string entry = Entry(std::string(text), procedure, module);
+    std::string entry = ActionEntry(std::string(text), procedure, module);
     if (!Recordable(entry)) return;
     ActionRing& ring = State().ring;
     if (++ring.position > kActionRingSize) {
@@ -185,7 +189,7 @@ void LogDebug(std::string_view text, std::string_view procedure, std::string_vie
   try {
     ActionRing& ring = State().ring;
     if (++ring.position > kActionRingSize) ring.position = 1;
-    Record(Entry("DBG: " + std::string(text), procedure, module));
+    Record(ActionEntry("DBG: " + std::string(text), procedure, module));
   } catch (...) {
   }
 }

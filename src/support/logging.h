@@ -44,6 +44,9 @@ inline constexpr int64_t kRepeatsRecorded = 3;
 // Repeats past kRepeatsRecorded are only counted.
 void LogProc(std::string_view text, std::string_view procedure, std::string_view module);
 
+// "text in procedure of module module", without the parts that are empty.
+std::string ActionEntry(std::string text, std::string_view procedure, std::string_view module);
+
 // Records "DBG: text ..." in the ring; wraps round without listing.
 void LogDebug(std::string_view text, std::string_view procedure, std::string_view module);
 

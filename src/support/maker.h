@@ -11,5 +11,10 @@ inline constexpr std::string_view kMakerCountry = "New Zealand";
 // Where readers pay an author, and where a newer version is announced.
 inline constexpr std::string_view kMakerPaymentPage = "https://vireo-reader.example.org/pay";
 inline constexpr std::string_view kMakerUpdatePage = "https://vireo-reader.example.org/update";
+// Where error reports are mailed.
+inline constexpr std::string_view kMakerBugAddress = "bugs@vireo-reader.example.org";
+// The terms the reader is given under, as the about window states them.
+inline constexpr std::string_view kLicence =
+    "Vireo is free to use and to give away in unchanged copies. It comes without any warranty.";
 
 }  // namespace vireo

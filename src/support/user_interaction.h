@@ -6,6 +6,8 @@
 
 namespace vireo {
 
+enum class DefaultAnswer { kYes, kNo };
+
 // The few ways the core talks to the person at the screen. The Qt layer shows
 // dialogs; the non-interactive mode writes to standard error and answers with
 // the default; tests record.
@@ -17,8 +19,10 @@ class UserInteraction {
   // An input box; nullopt when cancelled.
   virtual std::optional<std::string> AskText(std::string_view prompt, std::string_view title,
                                              std::string_view default_text) = 0;
-  // A question with Yes and No buttons; true for Yes.
-  virtual bool AskYesNo(std::string_view question, std::string_view title) = 0;
+  // A question with Yes and No buttons; true for Yes. The default answer is
+  // the one a bare Enter gives: questions that destroy something default to No.
+  virtual bool AskYesNo(std::string_view question, std::string_view title,
+                        DefaultAnswer default_answer) = 0;
 };
 
 // Lets pending window messages run, and sleeps.

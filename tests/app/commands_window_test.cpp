@@ -79,7 +79,7 @@ TEST(ReaderMenu, TheOptionsMenuHasEveryItemInOrder) {
             "mnuColours mnuSelectFont - mnuSearch [mnuGetSearchTerm mnuFindNext mnuFindPrevious ] "
             "mnuGoto - mnuCopyPage - mnuFormat [mnuFormatting mnuJustified mnuIndentParagraphs "
             "mnuUnderscores mnuExtraLine ] - mnuLanguage [mnuSetLang0 mnuSetLang1 ] mnuPayAuthor "
-            "- mnuGutenberg - mnuHelp - mnuToggleBar - mnuCheckUpdate mnuAbout mnuExit ");
+            "- mnuGutenberg - mnuHelp mnuReportProblem - mnuToggleBar - mnuCheckUpdate mnuAbout mnuExit ");
   EXPECT_EQ(menu.title(), "Options");
   EXPECT_EQ(menu.Item("mnuFile")->text().toStdString(), "File") << "a submenu by its name";
   EXPECT_EQ(menu.Item("mnuSetLang1")->text().toStdString(), "Espa\xc3\xb1ol");

@@ -44,7 +44,7 @@ class FakeUser : public UserInteraction {
     messages.emplace_back(prompt);
     return answer ? answer : std::optional<std::string>(std::string(default_text));
   }
-  bool AskYesNo(std::string_view question, std::string_view) override {
+  bool AskYesNo(std::string_view question, std::string_view, DefaultAnswer) override {
     messages.emplace_back(question);
     return yes;
   }

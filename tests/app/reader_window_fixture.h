@@ -40,17 +40,20 @@ inline std::string SampleProse(int paragraphs) {
 // Page turns without the sweep, for tests that only care where they land.
 inline constexpr const char* kInstant = "INSTANTPAGETURN,True\r\n";
 
-// The real main window, offscreen, in its own program folder with an ebook of `text`.
+// The real main window, offscreen, in its own program folder with an ebook of `text`. The
+// person is a FakeUser unless another is given.
 class ReaderWindow {
  public:
-  ReaderWindow(const std::string& text, const std::string& settings = "") {
+  ReaderWindow(const std::string& text, const std::string& settings = "",
+               UserInteraction* person = nullptr)
+      : person_(person != nullptr ? *person : user_) {
     ResetGlobalSettings();
     ClearActions();
     qputenv("XDG_DATA_HOME", folder_.File("xdg").c_str());
     if (!settings.empty()) WriteFile(folder_.File("Vireo.ini"), settings);
     book_ = folder_.File("Book");
     WriteEbook(book_, text);
-    window_ = std::make_unique<MainWindow>(user_, ProgramLocation{folder_.str(), book_});
+    window_ = std::make_unique<MainWindow>(person_, ProgramLocation{folder_.str(), book_});
   }
   ~ReaderWindow() {
     ClearQuit();
@@ -71,13 +74,14 @@ class ReaderWindow {
     ClearQuit();
     window_.reset();
     ResetGlobalSettings();
-    window_ = std::make_unique<MainWindow>(user_, ProgramLocation{folder_.str(), book_});
+    window_ = std::make_unique<MainWindow>(person_, ProgramLocation{folder_.str(), book_});
     Start();
   }
 
   MainWindow& window() { return *window_; }
   frmMain& logic() { return window_->logic(); }
   const TempFolder& folder() const { return folder_; }
+  const std::string& book() const { return book_; }
   FakeUser& user() { return user_; }
 
  private:
@@ -91,6 +95,7 @@ class ReaderWindow {
   TempFolder folder_;
   std::string book_;
   FakeUser user_;
+  UserInteraction& person_;
   std::unique_ptr<MainWindow> window_;
 };
 

@@ -1,0 +1,109 @@
+// The about window, the error-report form and the questions that default to No, on the real
+// window offscreen.
+#include <gtest/gtest.h>
+
+#include <QMessageBox>
+#include <QtGlobal>
+#include <filesystem>
+
+#include "app/error_report_dialog.h"
+#include "app/reader_window_fixture.h"
+#include "support/error_trap.h"
+
+namespace vireo {
+namespace {
+
+// Runs action and hands the first modal dialog of type Dialog that comes up to answer.
+template <typename Dialog>
+bool Answering(const std::function<void()>& action, const std::function<void(Dialog&)>& answer) {
+  bool answered = false;
+  test::WhileWatching(action, [&] {
+    auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+    if (answered || dialog == nullptr) return;
+    answered = true;
+    answer(*dialog);
+  });
+  return answered;
+}
+
+TEST(DangerousQuestions, DeleteAnsweredByEnterKeepsTheBookFile) {
+  QtUserInteraction person;
+  test::ReaderWindow reader(test::SampleProse(3), "", &person);
+  person.set_parent(&reader.window());
+  reader.Start();
+  QString asked;
+  ASSERT_TRUE(Answering<QMessageBox>([&] { test::Trigger(reader, "mnuErasefile"); },
+                                     [&](QMessageBox& box) {
+                                       asked = box.text();
+                                       QTest::keyClick(&box, Qt::Key_Return);
+                                     }));
+  EXPECT_TRUE(asked.startsWith("Do you really want to erase")) << asked.toStdString();
+  EXPECT_TRUE(std::filesystem::exists(reader.book()));
+  EXPECT_TRUE(reader.logic().book_pages().loaded);
+}
+
+TEST(AboutWindow, DescribesTheProgramAndTheBookOnShow) {
+  test::ReaderWindow reader(test::SampleProse(3));
+  reader.Start();
+  reader.window().bar().cmdAbout->click();
+  auto* about = reader.window().findChild<frmAbout*>("frmAbout");
+  ASSERT_NE(about, nullptr);
+  EXPECT_TRUE(about->isVisible());
+  EXPECT_TRUE(about->lblProgram->text().startsWith("Vireo "));
+  EXPECT_TRUE(about->lblHomePage->text().contains("href=\"https://vireo-reader.example.org\""));
+  EXPECT_EQ(about->lblQt->text(), QString("Qt ") + qVersion());
+  EXPECT_TRUE(about->lblBook->text().startsWith("Title, by Author: "))
+      << about->lblBook->text().toStdString();
+  EXPECT_TRUE(about->lblBook->text().endsWith(" bytes stored"));
+  about->cmdOK->click();
+}
+
+TEST(ErrorReportForm, ShowsTheErrorAndLogAndOpensTheReportAndTheMail) {
+  test::TempFolder folder;
+  std::vector<QUrl> opened;
+  fSHAREDErrorRpt form(folder.str(), [&](const QUrl& address) { opened.push_back(address); });
+  form.ShowError("Overflow in sub showpage(6) of module frmMain");
+  EXPECT_EQ(form.txtLog->toPlainText(), "No log file");
+  test::WriteFile(folder.File("log.txt"), "12:00:00      Startup\r\n");
+  form.ShowError("Overflow in sub showpage(6) of module frmMain");
+  EXPECT_EQ(form.txtLog->toPlainText(), "12:00:00      Startup\n");
+  EXPECT_EQ(form.txtError->toPlainText(), "Overflow in sub showpage(6) of module frmMain");
+  QTest::keyClicks(form.txtNote, "I turned a page");
+  form.cmdViewReport->click();
+  form.cmdEmail->click();
+  ASSERT_EQ(opened.size(), 2u);
+  EXPECT_EQ(opened[0].toLocalFile().toStdString(), folder.File("fulllog.txt"));
+  EXPECT_NE(test::ReadFile(folder.File("fulllog.txt"))
+                .find("frmMain\r\n\r\nI turned a page\r\n\r\n12:00:00      Startup"),
+            std::string::npos);
+  EXPECT_EQ(opened[1].scheme(), "mailto");
+  EXPECT_TRUE(opened[1].toString(QUrl::FullyEncoded).contains("I%20turned%20a%20page%0D%0A"));
+}
+
+TEST(ErrorReportForm, ComesUpWhenAnErrorReachesThePersonAndFromTheMenu) {
+  test::ReaderWindow reader(test::SampleProse(3));
+  reader.Start();
+  SetErrorObserver([&](const std::string& entry) { reader.window().help().ErrorReached(entry); });
+  const auto shown_error = [&](const std::function<void()>& action) {
+    QString error;
+    Answering<fSHAREDErrorRpt>(action, [&](fSHAREDErrorRpt& form) {
+      error = form.txtError->toPlainText();
+      form.cmdClose->click();
+    });
+    return error.toStdString();
+  };
+  EXPECT_EQ(
+      shown_error([] {
+        RecordError(RuntimeError(ErrorNumber::kPathFileAccess), "sub x", "frmMain");
+        QApplication::processEvents();
+      }),
+      RuntimeError(ErrorNumber::kPathFileAccess).description() + " in sub x(75) of module frmMain");
+  SetErrorObserver(nullptr);
+  EXPECT_EQ(
+      shown_error([&] { test::Trigger(reader, "mnuReportProblem"); }),
+      RuntimeError(ErrorNumber::kPathFileAccess).description() + " in sub x(75) of module frmMain")
+      << "the menu reports the last error";
+}
+
+}  // namespace
+}  // namespace vireo

@@ -1,0 +1,59 @@
+#include "support/error_report.h"
+
+#include <gtest/gtest.h>
+
+#include "test_support.h"
+
+namespace vireo {
+namespace {
+
+// The report file at the mail program's limit and one character past it.
+TEST(ErrorReport, FileIsMarkedWhereAMailedCopyEndsOnlyPastFourHundredCharacters) {
+  const size_t frame = ReportText({}).size();
+  ASSERT_LT(frame, kMailBodyLimit);
+  struct Case {
+    size_t length;
+    bool marked;
+  };
+  for (const Case& c : {Case{400, false}, Case{401, true}}) {
+    test::TempFolder folder;
+    const ErrorReport report{std::string(c.length - frame, 'e'), "", ""};
+    const std::string path = WriteReportFile(folder.str(), report);
+    EXPECT_EQ(path, folder.File("fulllog.txt"));
+    std::string written = test::ReadFile(path);
+    EXPECT_EQ(written.find("*Email"), c.marked ? 401 : std::string::npos);
+    if (c.marked) written.erase(400, kMailTruncationMark.size());
+    EXPECT_EQ(written.size(), c.length) << "nothing else changes";
+  }
+}
+
+TEST(ErrorReport, TextHoldsTheErrorTheNoteWhenGivenAndTheLog) {
+  const std::string with_note = ReportText({"Overflow", "12:00:00      Startup", "I turned"});
+  EXPECT_NE(with_note.find("bugs@vireo-reader.example.org"), std::string::npos);
+  EXPECT_NE(with_note.find("\r\nError Report: Vireo "), std::string::npos);
+  EXPECT_NE(with_note.find("\r\n\r\nOverflow\r\n\r\nI turned\r\n\r\n12:00:00      Startup"),
+            std::string::npos);
+  EXPECT_NE(ReportText({"Overflow", "log", ""}).find("\r\n\r\nOverflow\r\n\r\nlog"),
+            std::string::npos)
+      << "no blank note";
+}
+
+TEST(ErrorReport, LogBoxShowsTheLogOrSaysThereIsNone) {
+  test::TempFolder folder;
+  EXPECT_EQ(ReportLogText(folder.str()), "No log file");
+  test::WriteFile(folder.File("log.txt"), "12:00:00      Startup\r\n");
+  EXPECT_EQ(ReportLogText(folder.str()), "12:00:00      Startup\r\n");
+}
+
+TEST(ErrorReport, MailLinkEncodesLineEndsAndTheLinksOwnCharacters) {
+  const std::string link = ReportMailLink({"Bad & worse", "a\r\nb\nc", ""});
+  EXPECT_EQ(
+      link.rfind("mailto:bugs@vireo-reader.example.org?subject=Bug%20Report%20(Vireo%20-%20", 0),
+      0u);
+  EXPECT_NE(link.find("&body=If%20"), std::string::npos);
+  EXPECT_NE(link.find("Bad%20%26%20worse%0D%0A%0D%0Aa%0D%0Ab%0D%0Ac"), std::string::npos);
+  EXPECT_EQ(link.find_first_of("\r\n "), std::string::npos);
+}
+
+}  // namespace
+}  // namespace vireo
