@@ -13,6 +13,7 @@
 
 #include "app/interaction_qt.h"
 #include "app/main_window.h"
+#include "app/page_setup_qt.h"
 #include "support/platform.h"
 
 #if !defined(_WIN32)
@@ -96,18 +97,29 @@ void PressKeys(vireo::MainWindow& window, std::string keys, std::function<void()
   });
 }
 
-// VIREO_SCREENSHOT=FILE.png: once started, save the window as a picture,
-// print its path and quit. VIREO_QUIT_AFTER_MS=N: quit N ms after start-up.
-// Both count from the end of the VIREO_KEYS.
-void ScheduleAutomation(vireo::MainWindow& window) {
-  if (const char* shot = std::getenv("VIREO_SCREENSHOT"); shot != nullptr && *shot != '\0') {
-    const QString path = QString::fromLocal8Bit(shot);
-    QTimer::singleShot(300, &window, [&window, path] {
-      if (window.grab().save(path)) std::printf("%s\n", path.toLocal8Bit().constData());
-      std::fflush(stdout);
-      window.logic().lifecycle().Quit();
-    });
-  }
+// When the environment variable names a file: once started, save a picture
+// there with save, print its path and quit.
+void ScheduleScreenshot(vireo::MainWindow& window, const char* variable,
+                        std::function<bool(const QString&)> save) {
+  const char* shot = std::getenv(variable);
+  if (shot == nullptr || *shot == '\0') return;
+  const QString path = QString::fromLocal8Bit(shot);
+  QTimer::singleShot(300, &window, [&window, path, save = std::move(save)] {
+    if (save(path)) std::printf("%s\n", path.toLocal8Bit().constData());
+    std::fflush(stdout);
+    window.logic().lifecycle().Quit();
+  });
+}
+
+// VIREO_SCREENSHOT=FILE.png: a picture of the window; VIREO_SETTINGS_SCREENSHOT=FILE.png:
+// of the settings dialog. VIREO_QUIT_AFTER_MS=N: quit N ms after start-up.
+// All count from the end of the VIREO_KEYS.
+void ScheduleAutomation(vireo::MainWindow& window, vireo::UserInteraction& user) {
+  ScheduleScreenshot(window, "VIREO_SCREENSHOT",
+                     [&window](const QString& path) { return window.grab().save(path); });
+  ScheduleScreenshot(window, "VIREO_SETTINGS_SCREENSHOT", [&window, &user](const QString& path) {
+    return vireo::SavePageSetupPicture(window.logic(), user, path);
+  });
   if (const int delay = EnvironmentNumber("VIREO_QUIT_AFTER_MS"); delay >= 0) {
     QTimer::singleShot(delay, &window, [&window] { window.logic().lifecycle().Quit(); });
   }
@@ -135,7 +147,8 @@ int main(int argc, char* argv[]) {
   window.show();
   started();
   const char* keys = std::getenv("VIREO_KEYS");
-  PressKeys(window, keys != nullptr ? keys : "", [&window] { ScheduleAutomation(window); });
+  PressKeys(window, keys != nullptr ? keys : "",
+            [&window, &user] { ScheduleAutomation(window, *user); });
   const int status = application.exec();
   return window.end_status() >= 0 ? window.end_status() : status;
 }

@@ -1,0 +1,157 @@
+#include "prefs/settings_form.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include "prefs/settings_get_set.h"
+#include "support/error_trap.h"
+#include "support/translation.h"
+
+namespace vireo {
+
+namespace {
+
+constexpr std::string_view kModule = "frmSettings";
+constexpr uint32_t kDefaultHighlight = 0x00B000;
+constexpr uint32_t kDefaultPageNumber = 0x808080;
+
+// The four border boxes: the store key, the box and the border the page is
+// laid out with when the store has none.
+struct BorderBox {
+  const char* key;
+  std::string BorderTexts::*text;
+  int default_twips;
+};
+constexpr std::array<BorderBox, 4> kBorderBoxes = {{{"LeftBorder", &BorderTexts::left, 400},
+                                                    {"TopBorder", &BorderTexts::top, 300},
+                                                    {"RightBorder", &BorderTexts::right, 400},
+                                                    {"BottomBorder", &BorderTexts::bottom, 550}}};
+
+const BorderBox& BoxOf(std::string_view key) {
+  return *std::find_if(kBorderBoxes.begin(), kBorderBoxes.end(),
+                       [&](const BorderBox& box) { return key == box.key; });
+}
+
+double StoredBorder(const BorderBox& box) {
+  return ReadNumber(sget(box.key, box.default_twips).ToText());
+}
+
+std::string BorderMessage(const BorderRule& rule) {
+  return GetTranslation(rule.phrase) + " " + std::to_string(rule.minimum) + " " +
+         GetTranslation("and") + " " + std::to_string(rule.maximum);
+}
+
+}  // namespace
+
+// The bottom border leaves room for the page number, so it starts higher.
+const std::array<BorderRule, 4> kBorderRules = {{
+    {"LeftBorder", 100, 1000, "Left border must be between"},
+    {"TopBorder", 100, 1000, "Top border must be between"},
+    {"BottomBorder", 200, 1000, "Bottom border must be between"},
+    {"RightBorder", 100, 1000, "Right border must be between"},
+}};
+
+ColourComponents SplitColour(uint32_t colour) {
+  return {static_cast<int>(colour & 0xFF), static_cast<int>((colour >> 8) & 0xFF),
+          static_cast<int>((colour >> 16) & 0xFF)};
+}
+
+double ReadNumber(const std::string& text) {
+  size_t at = 0;
+  while (at < text.size() && (text[at] == ' ' || text[at] == '\t')) ++at;
+  const bool negative = at < text.size() && text[at] == '-';
+  if (at < text.size() && (text[at] == '-' || text[at] == '+')) ++at;
+  double number = 0;
+  double scale = 0;  // 0 before the decimal point, then the weight of the next digit
+  for (; at < text.size(); ++at) {
+    const char c = text[at];
+    if (c == '.' && scale == 0) {
+      scale = 0.1;
+    } else if (std::isdigit(static_cast<unsigned char>(c)) != 0) {
+      if (scale == 0) {
+        number = number * 10 + (c - '0');
+      } else {
+        number += (c - '0') * scale;
+        scale /= 10;
+      }
+    } else {
+      break;
+    }
+  }
+  return negative ? -number : number;
+}
+
+SettingsForm::SettingsForm(const ReaderPreferences& prefs, SystemColours system) : system_(system) {
+  Trap("sub form_load", kModule, [&] {
+    colours_ = {prefs.ink_colour, prefs.highlight_colour, prefs.page_number_colour,
+                prefs.paper_colour};
+    textured_ = prefs.texture_num >= 0;
+    texture_slot_ = std::clamp(prefs.texture_num, 0, 3);
+    instant = prefs.instant_page_turn;
+    sweep_width = std::to_string(prefs.page_sweep_width);
+    for (const BorderBox& box : kBorderBoxes) {
+      borders.*box.text = sget(box.key, box.default_twips).ToText();
+    }
+  });
+}
+
+uint32_t SettingsForm::Colour(PageColour colour) const {
+  return colours_[static_cast<size_t>(colour)];
+}
+
+void SettingsForm::SetColour(ColourComponent component, int value) {
+  const int shift = component == ColourComponent::kRed     ? 0
+                    : component == ColourComponent::kGreen ? 8
+                                                           : 16;
+  const auto byte = static_cast<uint32_t>(std::clamp(value, 0, 255));
+  uint32_t& colour = colours_[static_cast<size_t>(chosen_)];
+  colour = (colour & ~(0xFFu << shift)) | (byte << shift);
+}
+
+void SettingsForm::SetTexture(int slot) {
+  if (slot < 0 || slot > 3) return;
+  texture_slot_ = slot;
+  textured_ = true;
+}
+
+void SettingsForm::Defaults() {
+  colours_ = {system_.window_text, kDefaultHighlight, kDefaultPageNumber, system_.window};
+  instant = false;
+}
+
+void SettingsForm::DefaultBorders() {
+  for (const BorderBox& box : kBorderBoxes) borders.*box.text = std::to_string(box.default_twips);
+}
+
+SettingsOutcome SettingsForm::OK(ReaderPreferences& prefs, UserInteraction& user) const {
+  SettingsOutcome outcome;
+  Trap("sub cmdok_click", kModule, [&] {
+    prefs.ink_colour = Colour(PageColour::kInk);
+    prefs.highlight_colour = Colour(PageColour::kHighlight);
+    prefs.page_number_colour = Colour(PageColour::kPageNumber);
+    prefs.paper_colour = Colour(PageColour::kPaper);
+    prefs.instant_page_turn = instant;
+    prefs.texture_num = TextureNum();
+    for (const BorderRule& rule : kBorderRules) {
+      const double twips = ReadNumber(borders.*BoxOf(rule.key).text);
+      if (twips < rule.minimum || twips > rule.maximum) {
+        user.ShowMessage(BorderMessage(rule), "Vireo");
+        return;
+      }
+    }
+    for (const BorderBox& box : kBorderBoxes) {
+      const double twips = ReadNumber(borders.*box.text);
+      if (twips != StoredBorder(box)) outcome.borders_changed = true;
+      sset(box.key, twips);
+    }
+    // Not range-checked; only kept within what an integer holds.
+    prefs.page_sweep_width = static_cast<int>(std::clamp(ReadNumber(sweep_width), -1e9, 1e9));
+    sset("PageSweepWidth", prefs.page_sweep_width);
+    sset("InstantPageTurn", prefs.instant_page_turn);
+    sset("TextureNum", prefs.texture_num);
+    outcome.closed = true;
+  });
+  return outcome;
+}
+
+}  // namespace vireo
