@@ -2,7 +2,7 @@
 # Sets up, builds, and writes pictures of the sample book as the reader shows
 # it at the default window size: the whole window, the first spread in
 # two-page and in single-page mode, and the title page of a reader without a
-# book.
+# book; and the settings dialog.
 #   scripts/pictures.sh [OUTPUT_FOLDER]   (default: build/pictures)
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -17,6 +17,9 @@ trap 'rm -rf "$work"' EXIT
 cp "$bin/vireo-tool" "$bin/Vireo" "$bin/Genesis" "$bin/libvHtml.so" "$bin"/paper*.jpg "$work/"
 export XDG_RUNTIME_DIR="$work" XDG_DATA_HOME="$work/xdg"
 QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_SCREENSHOT="$PWD/$out/main-window.png" \
+  "$work/Genesis" >/dev/null
+rm -f "$work/Vireo.ini" "$work/BookMarks.ini"
+QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_SETTINGS_SCREENSHOT="$PWD/$out/settings-dialog.png" \
   "$work/Genesis" >/dev/null
 rm -f "$work/Vireo.ini" "$work/BookMarks.ini"
 "$work/vireo-tool" render "$work/Genesis" --page 1 -o "$out/first-spread.png"
