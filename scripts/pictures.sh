@@ -11,15 +11,16 @@ scripts/build.sh release >/dev/null
 bin="build/release/bin"
 out="${1:-build/pictures}"
 mkdir -p "$out"
+out=$(cd "$out" && pwd)  # the reader runs from another folder
 # A clean program folder, so that no earlier preferences change the look.
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cp "$bin/vireo-tool" "$bin/Vireo" "$bin/Genesis" "$bin/libvHtml.so" "$bin"/paper*.jpg "$work/"
 export XDG_RUNTIME_DIR="$work" XDG_DATA_HOME="$work/xdg"
-QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_SCREENSHOT="$PWD/$out/main-window.png" \
+QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_SCREENSHOT="$out/main-window.png" \
   "$work/Genesis" >/dev/null
 rm -f "$work/Vireo.ini" "$work/BookMarks.ini"
-QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_SETTINGS_SCREENSHOT="$PWD/$out/settings-dialog.png" \
+QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_SETTINGS_SCREENSHOT="$out/settings-dialog.png" \
   "$work/Genesis" >/dev/null
 rm -f "$work/Vireo.ini" "$work/BookMarks.ini"
 "$work/vireo-tool" render "$work/Genesis" --page 1 -o "$out/first-spread.png"

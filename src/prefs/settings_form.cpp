@@ -15,25 +15,27 @@ constexpr std::string_view kModule = "frmSettings";
 constexpr uint32_t kDefaultHighlight = 0x00B000;
 constexpr uint32_t kDefaultPageNumber = 0x808080;
 
-// The four border boxes: the store key, the box and the border the page is
-// laid out with when the store has none.
-struct BorderBox {
+// The four borders in the order OK checks them: the store key, the box, the
+// border the page is laid out with when the store has none, the allowed range
+// in twips (inclusive) and the first phrase of the message when it is out of
+// range. The bottom border leaves room for the page number, so it starts higher.
+struct BorderRule {
   const char* key;
   std::string BorderTexts::*text;
   int default_twips;
+  int minimum;
+  int maximum;
+  const char* phrase;
 };
-constexpr std::array<BorderBox, 4> kBorderBoxes = {{{"LeftBorder", &BorderTexts::left, 400},
-                                                    {"TopBorder", &BorderTexts::top, 300},
-                                                    {"RightBorder", &BorderTexts::right, 400},
-                                                    {"BottomBorder", &BorderTexts::bottom, 550}}};
+constexpr std::array<BorderRule, 4> kBorderRules = {{
+    {"LeftBorder", &BorderTexts::left, 400, 100, 1000, "Left border must be between"},
+    {"TopBorder", &BorderTexts::top, 300, 100, 1000, "Top border must be between"},
+    {"BottomBorder", &BorderTexts::bottom, 550, 200, 1000, "Bottom border must be between"},
+    {"RightBorder", &BorderTexts::right, 400, 100, 1000, "Right border must be between"},
+}};
 
-const BorderBox& BoxOf(std::string_view key) {
-  return *std::find_if(kBorderBoxes.begin(), kBorderBoxes.end(),
-                       [&](const BorderBox& box) { return key == box.key; });
-}
-
-double StoredBorder(const BorderBox& box) {
-  return ReadNumber(sget(box.key, box.default_twips).ToText());
+double StoredBorder(const BorderRule& rule) {
+  return ReadNumber(sget(rule.key, rule.default_twips).ToText());
 }
 
 std::string BorderMessage(const BorderRule& rule) {
@@ -42,14 +44,6 @@ std::string BorderMessage(const BorderRule& rule) {
 }
 
 }  // namespace
-
-// The bottom border leaves room for the page number, so it starts higher.
-const std::array<BorderRule, 4> kBorderRules = {{
-    {"LeftBorder", 100, 1000, "Left border must be between"},
-    {"TopBorder", 100, 1000, "Top border must be between"},
-    {"BottomBorder", 200, 1000, "Bottom border must be between"},
-    {"RightBorder", 100, 1000, "Right border must be between"},
-}};
 
 ColourComponents SplitColour(uint32_t colour) {
   return {static_cast<int>(colour & 0xFF), static_cast<int>((colour >> 8) & 0xFF),
@@ -89,8 +83,8 @@ SettingsForm::SettingsForm(const ReaderPreferences& prefs, SystemColours system)
     texture_slot_ = std::clamp(prefs.texture_num, 0, 3);
     instant = prefs.instant_page_turn;
     sweep_width = std::to_string(prefs.page_sweep_width);
-    for (const BorderBox& box : kBorderBoxes) {
-      borders.*box.text = sget(box.key, box.default_twips).ToText();
+    for (const BorderRule& rule : kBorderRules) {
+      borders.*rule.text = sget(rule.key, rule.default_twips).ToText();
     }
   });
 }
@@ -120,7 +114,9 @@ void SettingsForm::Defaults() {
 }
 
 void SettingsForm::DefaultBorders() {
-  for (const BorderBox& box : kBorderBoxes) borders.*box.text = std::to_string(box.default_twips);
+  for (const BorderRule& rule : kBorderRules) {
+    borders.*rule.text = std::to_string(rule.default_twips);
+  }
 }
 
 SettingsOutcome SettingsForm::OK(ReaderPreferences& prefs, UserInteraction& user) const {
@@ -133,16 +129,16 @@ SettingsOutcome SettingsForm::OK(ReaderPreferences& prefs, UserInteraction& user
     prefs.instant_page_turn = instant;
     prefs.texture_num = TextureNum();
     for (const BorderRule& rule : kBorderRules) {
-      const double twips = ReadNumber(borders.*BoxOf(rule.key).text);
+      const double twips = ReadNumber(borders.*rule.text);
       if (twips < rule.minimum || twips > rule.maximum) {
         user.ShowMessage(BorderMessage(rule), "Vireo");
         return;
       }
     }
-    for (const BorderBox& box : kBorderBoxes) {
-      const double twips = ReadNumber(borders.*box.text);
-      if (twips != StoredBorder(box)) outcome.borders_changed = true;
-      sset(box.key, twips);
+    for (const BorderRule& rule : kBorderRules) {
+      const double twips = ReadNumber(borders.*rule.text);
+      if (twips != StoredBorder(rule)) outcome.borders_changed = true;
+      sset(rule.key, twips);
     }
     // Not range-checked; only kept within what an integer holds.
     prefs.page_sweep_width = static_cast<int>(std::clamp(ReadNumber(sweep_width), -1e9, 1e9));

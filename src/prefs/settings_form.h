@@ -94,16 +94,6 @@ class SettingsForm {
   int texture_slot_ = 0;
 };
 
-// The border rules in the order OK checks them: the store key, the allowed
-// range in twips (inclusive) and the message's first phrase.
-struct BorderRule {
-  const char* key;
-  int minimum;
-  int maximum;
-  const char* phrase;
-};
-extern const std::array<BorderRule, 4> kBorderRules;
-
 // A box's text read as a number: leading blanks, a sign, digits and one
 // decimal point; anything else ends it, and text without a number is 0.
 double ReadNumber(const std::string& text);
