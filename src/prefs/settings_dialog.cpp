@@ -40,6 +40,12 @@ Widget* Named(Widget* widget, const char* name) {
 constexpr std::array<std::string BorderTexts::*, 4> kBorderTexts = {
     &BorderTexts::left, &BorderTexts::right, &BorderTexts::top, &BorderTexts::bottom};
 
+std::array<bool, 4> Present(const std::array<std::string, 4>& texture_paths) {
+  std::array<bool, 4> present{};
+  for (size_t slot = 0; slot < present.size(); ++slot) present[slot] = !texture_paths[slot].empty();
+  return present;
+}
+
 }  // namespace
 
 // DisplaySample: the paper (with its texture when one is chosen) and the
@@ -80,7 +86,11 @@ class SettingsSample : public QWidget {
 frmSettings::frmSettings(ReaderPreferences& prefs, SystemColours system,
                          const std::array<std::string, 4>& texture_paths, UserInteraction& user,
                          std::function<void(const SettingsOutcome&)> on_ok, QWidget* parent)
-    : QDialog(parent), prefs_(prefs), user_(user), on_ok_(std::move(on_ok)), form_(prefs, system) {
+    : QDialog(parent),
+      prefs_(prefs),
+      user_(user),
+      on_ok_(std::move(on_ok)),
+      form_(prefs, system, Present(texture_paths)) {
   setObjectName(QStringLiteral("frmSettings"));
   setWindowTitle(Tr("Settings"));
   setModal(true);

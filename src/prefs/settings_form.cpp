@@ -75,7 +75,9 @@ double ReadNumber(const std::string& text) {
   return negative ? -number : number;
 }
 
-SettingsForm::SettingsForm(const ReaderPreferences& prefs, SystemColours system) : system_(system) {
+SettingsForm::SettingsForm(const ReaderPreferences& prefs, SystemColours system,
+                           std::array<bool, 4> textures_present)
+    : system_(system), textures_present_(textures_present) {
   Trap("sub form_load", kModule, [&] {
     colours_ = {prefs.ink_colour, prefs.highlight_colour, prefs.page_number_colour,
                 prefs.paper_colour};
@@ -102,8 +104,22 @@ void SettingsForm::SetColour(ColourComponent component, int value) {
   colour = (colour & ~(0xFFu << shift)) | (byte << shift);
 }
 
+void SettingsForm::SetTextured(bool textured) {
+  if (!textured) {
+    textured_ = false;
+    return;
+  }
+  if (textures_present_[static_cast<size_t>(texture_slot_)]) {
+    textured_ = true;
+    return;
+  }
+  const auto first = std::find(textures_present_.begin(), textures_present_.end(), true);
+  if (first != textures_present_.end())
+    SetTexture(static_cast<int>(first - textures_present_.begin()));
+}
+
 void SettingsForm::SetTexture(int slot) {
-  if (slot < 0 || slot > 3) return;
+  if (slot < 0 || slot > 3 || !textures_present_[static_cast<size_t>(slot)]) return;
   texture_slot_ = slot;
   textured_ = true;
 }

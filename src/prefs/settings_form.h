@@ -47,7 +47,9 @@ class SettingsForm {
   // Form_Load: the colours, texture and instant flag from prefs, the borders
   // from the store ("LeftBorder" ... with the page's defaults), the ink colour
   // chosen for editing. system: the colours "Defaults" restores.
-  SettingsForm(const ReaderPreferences& prefs, SystemColours system);
+  // textures_present: which texture slots have a picture beside the program.
+  SettingsForm(const ReaderPreferences& prefs, SystemColours system,
+               std::array<bool, 4> textures_present = {true, true, true, true});
 
   // The option buttons: which colour the scroll bars edit.
   void ChooseColour(PageColour colour) { chosen_ = colour; }
@@ -58,10 +60,11 @@ class SettingsForm {
   void SetColour(ColourComponent component, int value);
   uint32_t Colour(PageColour colour) const;
 
-  // chkTextured and picTexture: texture off, or slot 0..3 chosen (which
-  // switches texture on). Switching texture on again brings back the last
-  // slot, the first one when none was chosen.
-  void SetTextured(bool textured) { textured_ = textured; }
+  // chkTextured and picTexture: texture off, or a slot 0..3 with a picture
+  // chosen (which switches texture on). Switching texture on again brings
+  // back the last slot, or the first present one when that has no picture;
+  // without any picture texture stays off.
+  void SetTextured(bool textured);
   void SetTexture(int slot);
   bool textured() const { return textured_; }
   int texture_slot() const { return texture_slot_; }
@@ -89,6 +92,7 @@ class SettingsForm {
  private:
   std::array<uint32_t, 4> colours_{};  // by PageColour
   SystemColours system_;
+  std::array<bool, 4> textures_present_;
   PageColour chosen_ = PageColour::kInk;
   bool textured_ = false;
   int texture_slot_ = 0;

@@ -57,9 +57,11 @@ TEST_F(SettingsFormTest, ARejectedBorderLeavesTheColoursAppliedAndStoresNothing)
 
 TEST_F(SettingsFormTest, ValidBordersAreStoredWithTheTurnAndTextureKeys) {
   prefs.texture_num = -1;
-  SettingsForm form(prefs, system);
+  SettingsForm form(prefs, system, {false, true, false, true});
   form.SetTextured(true);
-  EXPECT_EQ(form.TextureNum(), 0) << "the first texture when none was chosen";
+  EXPECT_EQ(form.TextureNum(), 1) << "the first texture beside the program";
+  form.SetTexture(2);
+  EXPECT_EQ(form.TextureNum(), 1) << "no picture in slot 2";
   form.SetTexture(3);
   form.SetTextured(false);
   form.SetTextured(true);
