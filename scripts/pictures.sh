@@ -2,7 +2,7 @@
 # Sets up, builds, and writes pictures of the sample book as the reader shows
 # it at the default window size: the whole window, the first spread in
 # two-page and in single-page mode, the title page of a reader without a
-# book, the about window and the error-report form.
+# book, the settings dialog, the about window and the error-report form.
 #   scripts/pictures.sh [OUTPUT_FOLDER]   (default: build/pictures)
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -11,17 +11,21 @@ scripts/build.sh release >/dev/null
 bin="build/release/bin"
 out="${1:-build/pictures}"
 mkdir -p "$out"
+out=$(cd "$out" && pwd)  # the reader runs from another folder
 # A clean program folder, so that no earlier preferences change the look.
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cp "$bin/vireo-tool" "$bin/Vireo" "$bin/Genesis" "$bin/libvHtml.so" "$bin"/paper*.jpg "$work/"
 export XDG_RUNTIME_DIR="$work" XDG_DATA_HOME="$work/xdg"
-QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_SCREENSHOT="$PWD/$out/main-window.png" \
+QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_SCREENSHOT="$out/main-window.png" \
+  "$work/Genesis" >/dev/null
+rm -f "$work/Vireo.ini" "$work/BookMarks.ini"
+QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_SETTINGS_SCREENSHOT="$out/settings-dialog.png" \
   "$work/Genesis" >/dev/null
 # The about window and the error-report form (with an example error) over the window.
 for dialog in about:about-window report:error-report; do
   QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_DIALOG="${dialog%%:*}" \
-    VIREO_SCREENSHOT="$PWD/$out/${dialog#*:}.png" "$work/Genesis" >/dev/null
+    VIREO_SCREENSHOT="$out/${dialog#*:}.png" "$work/Genesis" >/dev/null
 done
 rm -f "$work/Vireo.ini" "$work/BookMarks.ini"
 "$work/vireo-tool" render "$work/Genesis" --page 1 -o "$out/first-spread.png"

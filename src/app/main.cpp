@@ -16,6 +16,7 @@
 #include "app/error_report_dialog.h"
 #include "app/interaction_qt.h"
 #include "app/main_window.h"
+#include "app/page_setup_qt.h"
 #include "support/error_trap.h"
 #include "support/platform.h"
 
@@ -115,20 +116,35 @@ QWidget* OpenDialog(vireo::MainWindow& window) {
   return form;
 }
 
-// VIREO_SCREENSHOT=FILE.png: once started, save the window (or the dialog of
-// VIREO_DIALOG) as a picture, print its path and quit. VIREO_QUIT_AFTER_MS=N:
-// quit N ms after start-up. Both count from the end of the VIREO_KEYS.
-void ScheduleAutomation(vireo::MainWindow& window) {
-  if (const char* shot = std::getenv("VIREO_SCREENSHOT"); shot != nullptr && *shot != '\0') {
-    const QString path = QString::fromLocal8Bit(shot);
+// Once started, save a picture (save) at the file the environment variable
+// names, print its path and quit; nothing when the variable is not set.
+void ScheduleScreenshot(vireo::MainWindow& window, const char* variable,
+                        std::function<bool(const QString&)> save) {
+  const char* shot = std::getenv(variable);
+  if (shot == nullptr || *shot == '\0') return;
+  const QString path = QString::fromLocal8Bit(shot);
+  QTimer::singleShot(300, &window, [&window, path, save = std::move(save)] {
+    if (save(path)) std::printf("%s\n", path.toLocal8Bit().constData());
+    std::fflush(stdout);
+    window.logic().lifecycle().Quit();
+  });
+}
+
+// VIREO_SCREENSHOT=FILE.png: a picture of the window, or of the dialog of
+// VIREO_DIALOG; VIREO_SETTINGS_SCREENSHOT=FILE.png: of the settings dialog.
+// VIREO_QUIT_AFTER_MS=N: quit N ms after start-up. All count from the end
+// of the VIREO_KEYS.
+void ScheduleAutomation(vireo::MainWindow& window, vireo::UserInteraction& user) {
+  if (std::getenv("VIREO_SCREENSHOT") != nullptr) {
     QPointer<QWidget> dialog = OpenDialog(window);
-    QTimer::singleShot(300, &window, [&window, path, dialog] {
+    ScheduleScreenshot(window, "VIREO_SCREENSHOT", [&window, dialog](const QString& path) {
       QWidget* shown = dialog ? dialog.data() : &window;
-      if (shown->grab().save(path)) std::printf("%s\n", path.toLocal8Bit().constData());
-      std::fflush(stdout);
-      window.logic().lifecycle().Quit();
+      return shown->grab().save(path);
     });
   }
+  ScheduleScreenshot(window, "VIREO_SETTINGS_SCREENSHOT", [&window, &user](const QString& path) {
+    return vireo::SavePageSetupPicture(window.logic(), user, path);
+  });
   if (const int delay = EnvironmentNumber("VIREO_QUIT_AFTER_MS"); delay >= 0) {
     QTimer::singleShot(delay, &window, [&window] { window.logic().lifecycle().Quit(); });
   }
@@ -161,7 +177,8 @@ int main(int argc, char* argv[]) {
   window.show();
   started();
   const char* keys = std::getenv("VIREO_KEYS");
-  PressKeys(window, keys != nullptr ? keys : "", [&window] { ScheduleAutomation(window); });
+  PressKeys(window, keys != nullptr ? keys : "",
+            [&window, &user] { ScheduleAutomation(window, *user); });
   const int status = application.exec();
   vireo::SetErrorObserver(nullptr);
   return window.end_status() >= 0 ? window.end_status() : status;

@@ -17,6 +17,7 @@
 #include <QUrl>
 
 #include "app/key_map.h"
+#include "app/page_setup_qt.h"
 #include "nav/page_nav_dialog.h"
 #include "nav/page_nav_mouse.h"
 #include "render/book_display.h"
@@ -138,9 +139,7 @@ void MainWindow::ConnectPlannedItems() {
   connect(menu_->Item("mnuEbook"), &QAction::triggered, this,
           say("Create ebook will make a self-contained ebook from a text file. Until it is "
               "here, use vireo-tool make."));
-  const auto settings =
-      say("Page Setup will change colours, borders, texture and page turning. It is not available "
-          "in this version; the settings can be edited in Vireo.ini.");
+  const auto settings = [this] { ShowPageSetup(logic_, user_, this); };
   connect(bar_->cmdPageSetup, &QPushButton::clicked, this, settings);
   connect(menu_->Item("mnuColours"), &QAction::triggered, this, settings);
   const auto font =

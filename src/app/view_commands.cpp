@@ -163,4 +163,18 @@ void ViewCommands::UpdateBookMode(bool save_size) {
   });
 }
 
+void ViewCommands::ApplyPageSetup(const SettingsOutcome& outcome) {
+  Trap("sub applypagesetup", kModule, [&] {
+    spread_.plotter().SetPageColours();
+    if (outcome.closed && outcome.borders_changed) {
+      spread_.LayOutBook();
+      session_.RepaginateAtBookmark();
+    } else if (context_.book.loaded) {
+      spread_.ShowPage(context_.reading.current_page);
+    } else {
+      spread_.RedrawPages();
+    }
+  });
+}
+
 }  // namespace vireo

@@ -5,6 +5,7 @@
 #include "app/book_session.h"
 #include "app/book_spread.h"
 #include "app/reader_context.h"
+#include "prefs/settings_form.h"
 
 namespace vireo {
 
@@ -35,6 +36,11 @@ class ViewCommands {
   // the window takes the new mode's size (the old one saved first when
   // save_size), and the book is laid out and paginated again.
   void UpdateBookMode(bool save_size);
+  // The settings dialog's OK, after it applied its values: the pages are
+  // drawn again in the new colours and texture with the cache emptied; when
+  // it closed with changed borders the bookmark is stored and the book is
+  // laid out and paginated again at it.
+  void ApplyPageSetup(const SettingsOutcome& outcome);
 
  private:
   void StepFontSize(int step);
