@@ -4,6 +4,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "render/qt_surface_qt.h"
+
 namespace vireo {
 
 LampWidget::LampWidget(QWidget* parent) : QWidget(parent) { setFixedSize(sizeHint()); }
@@ -16,7 +18,7 @@ void LampWidget::SetColour(uint32_t bgr) {
 void LampWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  const QColor fill(colour_ & 0xFF, (colour_ >> 8) & 0xFF, (colour_ >> 16) & 0xFF);
+  const QColor fill = QtSurface::ColorFromBgr(colour_);
   painter.setPen(QPen(fill.darker(160), 1));
   painter.setBrush(fill);
   painter.drawEllipse(QRectF(1.5, 1.5, width() - 3, height() - 3));

@@ -35,8 +35,6 @@ uint32_t ToBgr(const QColor& colour) {
          static_cast<uint32_t>(colour.blue()) << 16;
 }
 
-QColor FromBgr(uint32_t bgr) { return QColor(bgr & 0xFF, (bgr >> 8) & 0xFF, (bgr >> 16) & 0xFF); }
-
 int Pixels(double twips) { return static_cast<int>(twips / kTwipsPerPixel + 0.5); }
 
 }  // namespace
@@ -299,7 +297,7 @@ void MainWindow::SetBarLabel(BarLabel label, std::string_view text, uint32_t col
   control->setText(FromWindows1252(text));
   if (label != BarLabel::kPageNumber) return;
   QPalette palette = control->palette();
-  palette.setColor(QPalette::WindowText, FromBgr(colour));
+  palette.setColor(QPalette::WindowText, QtSurface::ColorFromBgr(colour));
   control->setPalette(palette);
 }
 

@@ -1,7 +1,6 @@
 #include "support/error_report.h"
 
 #include <cstdio>
-#include <memory>
 
 #include "support/file_io.h"
 #include "support/logging.h"
@@ -71,12 +70,7 @@ std::string ReportText(const ErrorReport& report) {
 
 std::string WriteReportFile(std::string_view folder, const ErrorReport& report) {
   const std::string path = JoinPath(folder, "fulllog.txt");
-  const std::string text = ReportText(report);
-  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "wb"),
-                                                             std::fclose);
-  if (!file || std::fwrite(text.data(), 1, text.size(), file.get()) != text.size()) {
-    throw RuntimeError(ErrorNumber::kPathFileAccess);
-  }
+  WriteFileAtomically(path, ReportText(report));
   return path;
 }
 

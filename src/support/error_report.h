@@ -32,8 +32,9 @@ std::string ReportLogText(std::string_view folder);
 // kMailTruncationMark after its kMailBodyLimit-th character.
 std::string ReportText(const ErrorReport& report);
 
-// Writes ReportText to "fulllog.txt" in folder and returns the file's path.
-// Throws RuntimeError 75 when the file cannot be written.
+// Writes ReportText to "fulllog.txt" in folder, replacing it atomically, and
+// returns the file's path. Throws RuntimeError 61 (disk full) or 75 when it
+// cannot be written.
 std::string WriteReportFile(std::string_view folder, const ErrorReport& report);
 
 // "mailto:" the bug-report address with the subject "Bug Report (Vireo -
