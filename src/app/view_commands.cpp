@@ -12,9 +12,6 @@ namespace vireo {
 namespace {
 
 constexpr std::string_view kModule = "frmMain";
-constexpr double kShownBarMinimumWidth = 9500;
-constexpr double kHiddenBarMinimumWidth = 3500;
-constexpr double kMinimumHeight = 6570;
 
 struct SizeKeys {
   const char* width;
@@ -92,8 +89,8 @@ void ViewCommands::ToggleBar() {
       prefs.bar_hidden = true;
       context_.pump.Yield();
     }
-    if (context_.view.WindowOuterSize().width < kShownBarMinimumWidth && !prefs.bar_hidden) {
-      SetWindowWidth(kShownBarMinimumWidth);
+    if (context_.view.WindowOuterSize().width < kMinimumWindowWidthWithBar && !prefs.bar_hidden) {
+      SetWindowWidth(kMinimumWindowWidthWithBar);
     }
     spread_.LayOutBook();
     context_.pump.Yield();
@@ -115,9 +112,9 @@ void ViewCommands::Form_Resize() {
       return;
     }
     const double minimum_width =
-        context_.prefs.bar_hidden ? kHiddenBarMinimumWidth : kShownBarMinimumWidth;
+        context_.prefs.bar_hidden ? kMinimumWindowWidthWithoutBar : kMinimumWindowWidthWithBar;
     if (size.width < minimum_width) view.SetWindowWidth(minimum_width);
-    if (size.height < kMinimumHeight) view.SetWindowHeight(kMinimumHeight);
+    if (size.height < kMinimumWindowHeight) view.SetWindowHeight(kMinimumWindowHeight);
     context_.resizing = false;
     if (!spread_.SizeChangedSinceLayout()) return;
     context_.pump.Yield();

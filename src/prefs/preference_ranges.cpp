@@ -9,8 +9,6 @@ namespace vireo {
 namespace {
 
 constexpr double kWhite = 0xFFFFFF;
-constexpr double kNarrowestWindowTwips = 3500;
-constexpr double kLowestWindowTwips = 6570;
 // Larger than any screen in twips; a stored size at least 0.95 of the
 // screen's opens the window maximised anyway.
 constexpr double kLargestWindowTwips = 1'000'000;
@@ -40,10 +38,10 @@ NumberPreference ColourPreference(std::string key, uint32_t default_colour) {
 }
 
 NumberPreference WindowWidthPreference(std::string key, double default_twips) {
-  return {std::move(key), default_twips, kNarrowestWindowTwips, kLargestWindowTwips};
+  return {std::move(key), default_twips, kMinimumWindowWidthWithoutBar, kLargestWindowTwips};
 }
 NumberPreference WindowHeightPreference(std::string key, double default_twips) {
-  return {std::move(key), default_twips, kLowestWindowTwips, kLargestWindowTwips};
+  return {std::move(key), default_twips, kMinimumWindowHeight, kLargestWindowTwips};
 }
 
 double ReadNumberPreference(const NumberPreference& preference) {

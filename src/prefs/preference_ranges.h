@@ -15,6 +15,12 @@ struct NumberPreference {
   double maximum;  // inclusive
 };
 
+// The window's smallest size in twips: the resize handler keeps it at least
+// this big, and a reader without stored sizes opens at it.
+inline constexpr double kMinimumWindowWidthWithBar = 9500;
+inline constexpr double kMinimumWindowWidthWithoutBar = 3500;
+inline constexpr double kMinimumWindowHeight = 6570;
+
 NumberPreference FontSizePreference();
 NumberPreference PageSweepWidthPreference();
 NumberPreference TextureNumPreference();

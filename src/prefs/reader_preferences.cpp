@@ -13,9 +13,6 @@ constexpr std::string_view kModule = "frmMain";
 // A window this close to the screen's size in either dimension opens
 // maximised.
 constexpr double kMaximiseFraction = 0.95;
-constexpr double kDefaultWidth = 9500;
-constexpr double kDefaultWidthBarHidden = 3500;
-constexpr double kDefaultHeight = 6570;
 
 // Each statement of ReadSettings is a step of its own: an error skips only
 // that step.
@@ -96,13 +93,14 @@ void ReadSettings(ReaderPreferences& prefs, PreferencesHost& host, const SystemC
   ReadStep([&] { prefs.page_sweep_width = ReadInteger(PageSweepWidthPreference()); });
   // The default width follows the bar, the key follows the page mode.
   ReadStep([&] {
-    const double default_width = prefs.bar_hidden ? kDefaultWidthBarHidden : kDefaultWidth;
+    const double default_width =
+        prefs.bar_hidden ? kMinimumWindowWidthWithoutBar : kMinimumWindowWidthWithBar;
     const char* key = prefs.single_page_mode ? "SingleWinWidth" : "WinWidth";
     prefs.window_width = ReadNumberPreference(WindowWidthPreference(key, default_width));
   });
   ReadStep([&] {
     const char* key = prefs.single_page_mode ? "SingleWinHeight" : "WinHeight";
-    prefs.window_height = ReadNumberPreference(WindowHeightPreference(key, kDefaultHeight));
+    prefs.window_height = ReadNumberPreference(WindowHeightPreference(key, kMinimumWindowHeight));
   });
   FitToScreen(prefs, host);
   ReadStep([&] { prefs.instant_page_turn = ReadBool("InstantPageTurn", false); });
