@@ -42,8 +42,9 @@ class HeadlessWindowView : public MainWindowView, public PageChooser {
   PageChooser& PageDialog() override { return *this; }
   std::optional<int> ChoosePage(int, int) override { return chosen_page; }
 
-  WindowSize size{9500, 6570};      // twips, inner and outer alike
-  WindowSize screen{28800, 16200};  // 1920 x 1080 pixels
+  WindowSize size{kMinimumWindowWidthWithBar,
+                  kMinimumWindowHeight};  // twips, inner and outer alike
+  WindowSize screen{28800, 16200};        // 1920 x 1080 pixels
   bool splash = false;
   std::string progress;
   int end_status = -1;  // -1 while running

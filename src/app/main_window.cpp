@@ -56,7 +56,7 @@ MainWindow::MainWindow(UserInteraction& user, ProgramLocation location)
   QFont bar_font = bar_->font();
   bar_font.setPointSizeF(8);
   bar_->setFont(bar_font);
-  resize(Pixels(9500), Pixels(6570));
+  resize(Pixels(kMinimumWindowWidthWithBar), Pixels(kMinimumWindowHeight));
   setFocusPolicy(Qt::StrongFocus);
   setAcceptDrops(true);
   ConnectCommands();

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+#include "prefs/preference_ranges.h"
+
 namespace vireo {
 
 // The reader's preferences as the program holds them between start-up and
@@ -21,8 +23,8 @@ struct ReaderPreferences {
   uint32_t highlight_colour = 0x00B000;  // "HLColour": search matches
   uint32_t page_number_colour = 0x808080;  // "PNColour"
   int page_sweep_width = 2100;
-  double window_width = 9500;
-  double window_height = 6570;
+  double window_width = kMinimumWindowWidthWithBar;
+  double window_height = kMinimumWindowHeight;
   bool instant_page_turn = false;
   int texture_num = 1;  // -1: no texture; 0..3: a paper texture
   std::string path;     // default folder for opening and saving files
