@@ -22,7 +22,8 @@ QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_SCREENSHOT="$out/main-win
 rm -f "$work/Vireo.ini" "$work/BookMarks.ini"
 QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_SETTINGS_SCREENSHOT="$out/settings-dialog.png" \
   "$work/Genesis" >/dev/null
-# The about window and the error-report form (with an example error) over the window.
+# The about window (frmAbout) and the error-report form (fSHAREDErrorRpt, with an
+# example error), each over the window.
 for dialog in about:about-window report:error-report; do
   QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_DIALOG="${dialog%%:*}" \
     VIREO_SCREENSHOT="$out/${dialog#*:}.png" "$work/Genesis" >/dev/null
