@@ -6,10 +6,8 @@
 
 #include <QAbstractButton>
 #include <QTimer>
-#include <filesystem>
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "app/main_window.h"
 #include "app/reader_window_fixture.h"
@@ -20,8 +18,6 @@ namespace {
 using test::kInstant;
 using test::LastMessage;
 using test::Press;
-using test::Px;
-using test::Trigger;
 
 TEST(ReaderKeys, EveryKeyOfTheMapGivesItsCommand) {
   test::ReaderWindow reader(test::SampleProse(80), kInstant);

@@ -50,46 +50,5 @@ TEST(BookOnScreen, InkStaysInTheTextAreaAndThePageNumberIsCentredAtTheFoot) {
   EXPECT_EQ(page.pixel(2, 2), kPaper) << "paper colour outside the text area";
 }
 
-TEST(BookOnScreen, TheTextureShowsWhenChosenAndNotAtMinusOne) {
-  const auto with_texture = [](int texture_num) {
-    test::ReaderWindow reader(test::SampleProse(3), "TEXTURENUM," + std::to_string(texture_num) +
-                                                        "\r\nPAPERCOLOUR,14741759\r\n");
-    QImage texture(1600, 1600, QImage::Format_RGB32);
-    texture.fill(qRgb(20, 160, 40));
-    texture.save(QString::fromStdString(reader.folder().File("paper1.jpg")), "JPG", 100);
-    reader.Start();
-    return test::BoxPicture(reader, kLeftPageBox).pixel(3, 3);
-  };
-  EXPECT_NEAR(QColor::fromRgb(with_texture(0)).green(), 160, 6);
-  EXPECT_EQ(with_texture(-1), kPaper);
-}
-
-TEST(BookOnScreen, TheEdgeLinesAreWhereTheLayoutPutsThem) {
-  test::ReaderWindow reader(test::SampleProse(3), kPlainPaper);
-  reader.Start();
-  BookCanvasWidget& canvas = reader.window().canvas();
-  const QImage view = canvas.grab().toImage();
-  const BookViewLayout& layout = canvas.layout();
-  const QColor ink = canvas.palette().windowText().color();
-  const auto inked_near = [&](double x, double y) {
-    for (int dx = -1; dx <= 1; ++dx) {
-      for (int dy = -1; dy <= 1; ++dy) {
-        if (QColor(view.pixel(Px(x) + dx, Px(y) + dy)) == ink) return true;
-      }
-    }
-    return false;
-  };
-  const double pages_left = layout.page_frames[0].left;
-  const double pages_right = layout.page_frames[1].left + layout.page_frames[1].width;
-  const EdgeLines& lines = layout.lines;
-  for (const TwipsLine& line : {lines.hard_left, lines.hard_right, lines.left, lines.right}) {
-    // Where no page covers it, a vertical edge line is drawn.
-    if (Px(line.x1) < Px(pages_left) || Px(line.x1) > Px(pages_right)) {
-      EXPECT_TRUE(inked_near(line.x1, (line.y1 + line.y2) / 2)) << line.x1;
-    }
-  }
-  EXPECT_TRUE(inked_near((lines.top.x1 + lines.top.x2) / 2, lines.top.y1));
-}
-
 }  // namespace
 }  // namespace vireo

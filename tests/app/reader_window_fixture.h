@@ -45,15 +45,15 @@ inline constexpr const char* kInstant = "INSTANTPAGETURN,True\r\n";
 class ReaderWindow {
  public:
   ReaderWindow(const std::string& text, const std::string& settings = "",
-               UserInteraction* person = nullptr)
-      : person_(person != nullptr ? *person : user_) {
+               UserInteraction* person = nullptr) {
     ResetGlobalSettings();
     ClearActions();
     qputenv("XDG_DATA_HOME", folder_.File("xdg").c_str());
     if (!settings.empty()) WriteFile(folder_.File("Vireo.ini"), settings);
     book_ = folder_.File("Book");
     WriteEbook(book_, text);
-    window_ = std::make_unique<MainWindow>(person_, ProgramLocation{folder_.str(), book_});
+    window_ = std::make_unique<MainWindow>(person != nullptr ? *person : user_,
+                                           ProgramLocation{folder_.str(), book_});
   }
   ~ReaderWindow() {
     ClearQuit();
@@ -67,15 +67,6 @@ class ReaderWindow {
     window_->logic().lifecycle().Form_Load();
     window_->show();
     QApplication::processEvents();
-  }
-
-  // A second run in the same folder: the window is dropped and a new one starts.
-  void Restart() {
-    ClearQuit();
-    window_.reset();
-    ResetGlobalSettings();
-    window_ = std::make_unique<MainWindow>(person_, ProgramLocation{folder_.str(), book_});
-    Start();
   }
 
   MainWindow& window() { return *window_; }
@@ -95,7 +86,6 @@ class ReaderWindow {
   TempFolder folder_;
   std::string book_;
   FakeUser user_;
-  UserInteraction& person_;
   std::unique_ptr<MainWindow> window_;
 };
 
