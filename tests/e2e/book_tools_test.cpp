@@ -35,7 +35,7 @@ TEST(BookTools, MakeThenTextGivesTheReformattedTextInEveryCombination) {
   test::WriteFile(folder.File("sample.txt"), text);
   const std::string book = folder.File("Sample Book");
   const auto made = test::Run(Tool() + " make " + Quoted(folder.File("sample.txt")) + " -o " +
-                                  Quoted(book) + " --author 'Some One' --title 'Some Title'",
+                                  Quoted(book),
                               {}, folder);
   ASSERT_EQ(made.status, 0) << made.err;
   for (const FormattingOptions& options : test::AllFormattingOptions()) {
@@ -45,30 +45,9 @@ TEST(BookTools, MakeThenTextGivesTheReformattedTextInEveryCombination) {
     ASSERT_EQ(run.status, 0) << Flags(options) << run.err;
     ASSERT_EQ(run.out, expected) << Flags(options);
   }
-  const auto info = test::Run(Tool() + " info " + Quoted(book), {}, folder);
-  EXPECT_EQ(info.status, 0);
-  EXPECT_NE(info.out.find("author: Some One\n"), std::string::npos) << info.out;
-  EXPECT_NE(info.out.find("title: Some Title\n"), std::string::npos) << info.out;
   const std::string ebook = test::ReadFile(book);  // the reader, stripped, then the book
   EXPECT_EQ(ebook.substr(0, 4), std::string("\x7f") + "ELF");
   EXPECT_FALSE(HasSymbolTable(ebook));
-}
-
-TEST(BookTools, BadInputFailsWithAMessageAndNoFile) {
-  test::TempFolder folder;
-  test::WriteFile(folder.File("empty.txt"), "");
-  test::WriteFile(folder.File("plain.txt"), "no book here");
-  const std::string out = folder.File("out");
-  for (const char* input : {"missing.txt", "empty.txt"}) {
-    const auto made = test::Run(
-        Tool() + " make " + Quoted(folder.File(input)) + " -o " + Quoted(out), {}, folder);
-    EXPECT_EQ(made.status, 1) << input;
-    EXPECT_FALSE(made.err.empty()) << input;
-  }
-  EXPECT_FALSE(std::filesystem::exists(out));
-  const auto text = test::Run(Tool() + " text " + Quoted(folder.File("plain.txt")), {}, folder);
-  EXPECT_EQ(text.status, 1);
-  EXPECT_NE(text.err.find("There is no ebook stored in this file."), std::string::npos);
 }
 
 TEST(BookTools, TheProgramsDoNotCarryTheMarkers) {

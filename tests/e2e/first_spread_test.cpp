@@ -18,15 +18,9 @@ long long Milestone(const std::string& err, const std::string& name) {
 TEST(FirstSpread, IsOnScreenBeforeA5MegabyteBookIsPaginated) {
   test::ProgramFolder program;
   std::mt19937 random(5);
-  test::WriteFile(program.Path("book.txt"), samples::ProseLikeText(random, 5'000'000));
-  const auto made = test::Run(program.Path("vireo-tool") + " make " + program.Path("book.txt") +
-                                  " -o " + program.Path("Big") + " --stub " + program.Path("Vireo"),
-                              {}, program.folder());
+  const auto made = test::MakeBook(program, "Big", samples::ProseLikeText(random, 5'000'000));
   ASSERT_EQ(made.status, 0) << made.err;
-  const auto run =
-      test::Run(program.Path("Big"),
-                test::Unattended(program.folder(), {"VIREO_TIMING=1", "VIREO_QUIT_AFTER_MS=0"}),
-                program.folder());
+  const auto run = test::StartAndQuit(program, "Big", {"VIREO_TIMING=1"}, 600);
   ASSERT_EQ(run.status, 0) << run.err;
   const long long first = Milestone(run.err, "first spread");
   const long long finished = Milestone(run.err, "pagination finished");

@@ -23,6 +23,7 @@ class HostileMaker : public ::testing::Test {
   HostileMaker() {
     test::WriteFile(File("T"), kText);
     test::WriteFile(File("notes.txt"), "not a program\n");
+    test::WriteFile(File("empty.txt"), "");
     std::filesystem::create_directory(File("D"));
     std::filesystem::create_hard_link(File("T"), File("hard"));
     std::filesystem::create_symlink("T", File("soft"));
@@ -38,22 +39,23 @@ class HostileMaker : public ::testing::Test {
                            {}, program_.folder());
   }
 
-  // stub + markers + body: what the tools and the reader take for an ebook.
-  std::string Ebook(const std::string& body, const std::string& stub = "stub") const {
-    return stub + HeaderMarker() + "header" + BookMarker() + body;
-  }
-
   test::ProgramFolder program_;
 };
 
-// The output may not be the text or the stub, however its path is spelled.
-TEST_F(HostileMaker, MakeRefusesWhatWouldDestroyOrMisleadAndLeavesTheFilesAlone) {
+// The output may not be the text or the stub, however its path is spelled;
+// noise, an empty body, a header marker alone and no marker are no book, so
+// text and info say why instead of printing what the unpacking left.
+TEST_F(HostileMaker, ToolsRefuseWhatWouldDestroyOrMisleadAndLeaveTheFilesAlone) {
+  std::mt19937 random(3);
+  std::uniform_int_distribution<int> printable_after_descrambling(10, 240);
+  std::string noise(20000, ' ');
+  for (char& c : noise) c = static_cast<char>(printable_after_descrambling(random));
+  const std::string stub_and_header = "stub" + HeaderMarker() + "header";  // then the book
+  test::WriteFile(File("noise"), stub_and_header + BookMarker() + noise);
+  test::WriteFile(File("empty"), stub_and_header + BookMarker());
+  test::WriteFile(File("header-only"), stub_and_header);
   const std::string vireo = test::ReadFile(File("Vireo"));
-  struct Case {
-    std::string arguments;
-    std::string phrase;
-  } cases[] = {
-      {"make T -o T", "it is the text itself"},
+  std::vector<std::pair<std::string, std::string>> cases = {  // arguments, message
       {"make T -o ./T", "it is the text itself"},
       {"make T -o " + File("T"), "it is the text itself"},
       {"make T -o hard", "it is the text itself"},
@@ -64,79 +66,35 @@ TEST_F(HostileMaker, MakeRefusesWhatWouldDestroyOrMisleadAndLeavesTheFilesAlone)
       {"make T -o out --stub D", "the stub D is a folder"},
       {"make T -o D", "a folder is there"},
       {"make T -o missing/out", "no such folder"},
+      {"make missing.txt -o out", "cannot read the text missing.txt"},
+      {"make empty.txt -o out", "the text empty.txt is empty"},
   };
-  for (const Case& c : cases) {
-    const test::RunResult run = Tool(c.arguments);
-    EXPECT_EQ(run.status, 1) << c.arguments;
-    EXPECT_THAT(run.err, HasSubstr(c.phrase)) << c.arguments;
-    EXPECT_EQ(run.out, "") << c.arguments;
-    EXPECT_EQ(test::ReadFile(File("T")), kText) << c.arguments;
-    EXPECT_FALSE(std::filesystem::exists(File("out"))) << c.arguments;
+  for (const auto& [file, phrase] : std::vector<std::pair<std::string, std::string>>{
+           {"noise", "noise holds a damaged book"},
+           {"empty", "empty holds a damaged book: the unpacking stopped in sub brnpostextract"},
+           {"header-only", "Invalid procedure call"},
+           {"notes.txt", "There is no ebook stored in this file."}}) {
+    cases.insert(cases.end(), {{"text " + file, phrase}, {"info " + file, phrase}});
+  }
+  for (const auto& [arguments, phrase] : cases) {
+    const test::RunResult run = Tool(arguments);
+    EXPECT_EQ(run.status, 1) << arguments;
+    EXPECT_THAT(run.err, HasSubstr(phrase)) << arguments;
+    EXPECT_EQ(run.out, "") << arguments;
+    EXPECT_EQ(test::ReadFile(File("T")), kText) << arguments;
+    EXPECT_FALSE(std::filesystem::exists(File("out"))) << arguments;
   }
   EXPECT_EQ(test::ReadFile(File("Vireo")), vireo);
   EXPECT_TRUE(std::filesystem::is_symlink(File("soft")));
 }
 
-// An output folder that takes no file, or has no room, is named as such;
-// these need a private mount and are skipped where none can be made.
-TEST_F(HostileMaker, AnUnwritableOrFullOutputFolderIsNamedNotTheStub) {
-  std::filesystem::create_directory(File("mnt"));
-  const struct {
-    std::string options;
-    std::string phrase;
-  } cases[] = {{"ro,size=1m", "Read-only file system"}, {"size=64k", "(Disk full)"}};
-  for (const auto& c : cases) {
-    const test::RunResult run = test::RunWithin(
-        kSeconds,
-        "unshare -m sh -c 'mount -t tmpfs -o " + c.options + " tmpfs \"" + File("mnt") +
-            "\" || exit 99; cd \"" + program_.folder().str() + "\" && ./vireo-tool make T -o mnt/book'",
-        {}, program_.folder());
-    if (run.status == 99 || run.err.find("unshare") != std::string::npos) {
-      GTEST_SKIP() << "no private mount here: " << run.err;
-    }
-    EXPECT_EQ(run.status, 1) << c.options;
-    EXPECT_THAT(run.err, HasSubstr("vireo-tool: cannot write mnt/book (")) << c.options;
-    EXPECT_THAT(run.err, HasSubstr(c.phrase)) << c.options;
-    EXPECT_THAT(run.err, testing::Not(HasSubstr("cannot use the stub"))) << c.options;
-  }
-}
-
-// Noise, an empty body and a header marker alone are no book: text and info
-// fail and say why instead of printing what the unpacking left.
-TEST_F(HostileMaker, TextAndInfoRefuseNoiseAndEmptyBooks) {
-  std::mt19937 random(3);
-  std::uniform_int_distribution<int> printable_after_descrambling(10, 240);
-  std::string noise(20000, ' ');
-  for (char& c : noise) c = static_cast<char>(printable_after_descrambling(random));
-  test::WriteFile(File("noise"), Ebook(noise));
-  test::WriteFile(File("empty"), Ebook(""));
-  test::WriteFile(File("header-only"), "stub" + HeaderMarker() + "header");
-  const struct {
-    std::string file;
-    std::string phrase;
-  } cases[] = {{"noise", "noise holds a damaged book"},
-               {"empty", "empty holds a damaged book: the unpacking stopped in sub brnpostextract"},
-               {"header-only", "Invalid procedure call"}};
-  for (const auto& c : cases) {
-    for (const std::string command : {"text ", "info "}) {
-      const test::RunResult run = Tool(command + c.file);
-      EXPECT_EQ(run.status, 1) << command << c.file;
-      EXPECT_THAT(run.err, HasSubstr(c.phrase)) << command << c.file;
-      EXPECT_EQ(run.out, "") << command << c.file;
-    }
-  }
-}
-
 TEST_F(HostileMaker, TheReaderLogsAHeaderMarkerWithoutABook) {
-  const std::string book = File("Lonely");
-  test::WriteFile(book, test::ReadFile(File("Vireo")) + HeaderMarker() + "header");
-  std::filesystem::permissions(book, std::filesystem::perms::owner_exec,
+  test::WriteFile(File("Lonely"), test::ReadFile(File("Vireo")) + HeaderMarker() + "header");
+  std::filesystem::permissions(File("Lonely"), std::filesystem::perms::owner_exec,
                                std::filesystem::perm_options::add);
-  const test::RunResult run = test::RunWithin(
-      kSeconds, book, test::Unattended(program_.folder(), {"VIREO_QUIT_AFTER_MS=0"}),
-      program_.folder());
+  const test::RunResult run = test::StartAndQuit(program_, "Lonely", {}, kSeconds);
   EXPECT_EQ(run.status, 0) << run.err;
-  EXPECT_THAT(program_.Log(), HasSubstr("No book follows the header marker in " + book));
+  EXPECT_THAT(program_.Log(), HasSubstr("No book follows the header marker in " + File("Lonely")));
 }
 
 // Author and title outside the packed form's characters come back as typed.

@@ -70,4 +70,28 @@ inline std::vector<std::string> Unattended(const TempFolder& folder,
   return more;
 }
 
+// The word as one shell word: in single quotes, which keep line feeds.
+inline std::string ShellWord(const std::string& word) {
+  std::string quoted = "'";
+  for (const char c : word) quoted += c == '\'' ? std::string("'\\''") : std::string(1, c);
+  return quoted + "'";
+}
+
+// Makes the ebook `name` in the program folder from `text`, with the reader as the stub.
+inline RunResult MakeBook(const ProgramFolder& program, const std::string& name,
+                          const std::string& text) {
+  WriteFile(program.Path("book.txt"), text);
+  return Run(program.Path("vireo-tool") + " make " + program.Path("book.txt") + " -o " +
+                 ShellWord(program.Path(name)) + " --stub " + program.Path("Vireo"),
+             {}, program.folder());
+}
+
+// Runs a program of the folder unattended; it quits as soon as it has started.
+inline RunResult StartAndQuit(const ProgramFolder& program, const std::string& name,
+                              std::vector<std::string> more = {}, int seconds = 90) {
+  more.push_back("VIREO_QUIT_AFTER_MS=0");
+  return RunWithin(seconds, ShellWord(program.Path(name)), Unattended(program.folder(), more),
+                   program.folder());
+}
+
 }  // namespace vireo::test
