@@ -12,9 +12,8 @@
 
 namespace vireo::test {
 
-// Page drawing and page buffers without a screen: each box holds the number of the page drawn
-// into it, and keeps a width, a left edge, a visibility and a place in its frame's stack (what
-// the reader sees).
+// Page drawing and buffers without a screen: each box holds the page number drawn into it, a
+// width, a left edge, a visibility and a place in its frame's stack.
 class FakeBookDisplay : public BookDisplay, public PageBuffers {
  public:
   static constexpr int kBlank = 0;

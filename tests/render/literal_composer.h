@@ -1,10 +1,8 @@
 #pragma once
 
-// The composer's line building written out as its rules read, with whole
-// strings: a split long word keeps its rest as a string that is inspected
-// again for every piece, and the piece is found by shrinking 25 characters
-// at a time and growing one at a time, measuring each prefix afresh. Slow on
-// purpose; the oracle for clsPrintPage::StoreSentences on small pages.
+// The composer's line rules written out literally on whole strings (pieces by
+// shrinking 25 and growing 1, each prefix measured afresh): slow on purpose,
+// the oracle for clsPrintPage::StoreSentences on small pages.
 
 #include <algorithm>
 #include <cstdint>
@@ -35,8 +33,7 @@ class LiteralComposer {
         bold_(settings.bold),
         italic_(settings.italic) {}
 
-  // Lays the page out; stops, as the composer does, when the line array
-  // (lines per page + 10) is full or a picture number overflows.
+  // Stops, as the composer does, when lines per page + 10 are full or a picture number overflows.
   LiteralPage Run() {
     try {
       Loop();

@@ -1,7 +1,5 @@
-// Pages holding long words, composed by clsPrintPage and by the composer's
-// rules written out literally: the same lines and pictures, including where a
-// prefix fits the line exactly over several lengths (characters of no width)
-// and where deleting tags makes new ones in the rest of a split word.
+// Long words composed by clsPrintPage and by the literal rules give the same lines and
+// pictures, also for exact fits over no-width characters and tags made by deleting tags.
 
 #include <gtest/gtest.h>
 
@@ -35,8 +33,7 @@ class Placed : public PrintPageObserver {
   std::vector<std::pair<int, size_t>> images;
 };
 
-// Widths 10 for every character but "z" and the style codes, which take no
-// room, so that many prefixes fit a line of a multiple of 10 exactly.
+// Width 10 for every character but "z" and the style codes (none): many prefixes fit exactly.
 clsFontMetrics WidthsWithZeros() {
   clsFontMetrics metrics;
   std::array<double, clsFontMetrics::kTableSize> widths;
@@ -75,8 +72,7 @@ TEST(LongWordPieces, AreTheLiteralRulesPieces) {
     std::string text;
     double width;
   } cases[] = {
-      // Exact fits over a run of characters of no width, wherever the shrink
-      // by 25 lands in it.
+      // Exact fits over a run of no-width characters, wherever the shrink by 25 lands.
       {std::string(20, 'a') + zeros + std::string(40, 'b') + " tail", 200},
       {std::string(19, 'a') + zeros + std::string(41, 'b') + " tail", 200},
       {std::string(23, 'a') + "z\x80z\x82" + std::string(77, 'b'), 230},
@@ -85,8 +81,7 @@ TEST(LongWordPieces, AreTheLiteralRulesPieces) {
       {zeros + std::string(30, 'c'), 0},
       // A whole word as the piece leaves "0".
       {std::string(20, 'a') + zeros + " next", 200},
-      // Tags made by deleting tags, pictures in the rest, and a number after
-      // the first "=" that only the rest sees.
+      // Tags made by deleting tags, pictures in the rest, a number after the first "=".
       {"[npn=[npn=r]r]" + std::string(40, 'd') + "[npn=[npn=n]n]" + std::string(40, 'e'), 200},
       {std::string(40, 'f') + "[IMG=3]" + std::string(40, 'g'), 200},
       {"=9" + std::string(40, 'h') + "=2[IMG=" + std::string(40, 'i'), 200},

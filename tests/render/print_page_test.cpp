@@ -16,8 +16,7 @@ using ::testing::ElementsAre;
 constexpr uint32_t kInk = 0x112233;
 constexpr uint32_t kHighlight = 0x00B000;
 
-// Every character is 10 twips wide (bold 30, italic 20), so a line of n
-// characters is 10 n wide; lines are 1000 twips wide starting at x = 400.
+// Characters are 10 twips wide (bold 30, italic 20); lines are 1000 wide from x = 400.
 class PrintPageTest : public ::testing::Test {
  protected:
   PrintPageTest() {
@@ -65,8 +64,7 @@ TEST_F(PrintPageTest, LaysThePageTextOutIntoLines) {
       {"aaaa -bbbb well-known ", 60, {"aaaa -", "bbbb", "well-", "known"}},
       // Deletes page breaks and page-number tags.
       {"Chapter[npn=n] one \x86 next[npn=r] [npn=d]end ", 1000, {"Chapter one\n", "   next end"}},
-      // Splits a long word at the shortest prefix as wide as the line: 24
-      // characters (240) still fit in 245, the piece is 25.
+      // A long word splits at the shortest prefix as wide as the line: 25 characters for 245.
       {std::string(30, 'x') + " ", 245, {std::string(25, 'x'), "   xxxxx"}},
   };
   for (const Case& c : cases) {
@@ -76,8 +74,7 @@ TEST_F(PrintPageTest, LaysThePageTextOutIntoLines) {
   EXPECT_EQ(pump.yields, 4) << "one yield per page";
 }
 
-// Each line is justified when at least 70 % full, unless it is centred or
-// ends its paragraph; lines are 240 high with a step of 16.
+// Justified when at least 70 % full, unless centred or paragraph end; lines 240 high, step 16.
 TEST_F(PrintPageTest, DrawsEachLineLeftAlignedJustifiedOrCentred) {
   struct Run {
     std::string text;

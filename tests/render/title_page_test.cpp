@@ -27,8 +27,7 @@ FakeSurface::Run RunOf(const FakeSurface& surface, std::string_view text) {
   return {};
 }
 
-// Boxes of 6000 x 9000 twips; characters are 100 twips wide (bold 120) and
-// lines 240 high.
+// Boxes of 6000 x 9000 twips; characters 100 twips wide (bold 120), lines 240 high.
 class TitlePageTest : public ::testing::Test {
  protected:
   ~TitlePageTest() override { SetLanguage({}); }
