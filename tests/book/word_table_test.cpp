@@ -56,6 +56,18 @@ TEST(WordTable, OnePassExpansionGivesTheFinalMeaningOfEachCodeRowByRow) {
   }
 }
 
+// That expansion undoes contraction is the book round trip's test.
+TEST(WordTable, ContractionRunsTheRowsInOrder) {
+  // "f0" becomes " 0" at row 32, then 179 at row 39; the blank already was 231.
+  EXPECT_EQ(ContractWords("f0 0"),
+            "\xB3\xE7"
+            "0");
+  EXPECT_EQ(ContractWords("tion"), "\xC9");
+  EXPECT_EQ(ContractWords("r."), ".\xE9");
+  // "er" (row 9) is taken before "re" (row 10), then "e" (row 26), "Th" (38).
+  EXPECT_EQ(ContractWords("There"), "\xEC\xD1\xE2");
+}
+
 // Words that overlap each other and themselves, digits after "f", and long
 // stretches without a byte that ends a word, across the pieces the
 // one-pass contraction works in.
