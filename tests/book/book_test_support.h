@@ -43,7 +43,6 @@ class LogCapture {
     ClearActions();
   }
   ~LogCapture() { SetLogFolder(""); }
-  std::string LogText() const { return ReadFile(folder_.File("log.txt")); }
   static std::vector<std::string> Entries() {
     std::vector<std::string> entries;
     for (int i = 1; i <= Actions().position; ++i) entries.push_back(Actions().text[i]);

@@ -1,9 +1,7 @@
 #pragma once
 
-// A word-for-word rendering of the pagination rules with whole strings and
-// backward searches, kept as the oracle for the linear paginator. Slow on
-// purpose (quadratic on long words and long runs without hyphens); use it on
-// small texts only.
+// The pagination rules word for word (whole strings, backward searches): the
+// linear paginator's oracle. Quadratic on purpose; small texts only.
 
 #include <cstdint>
 #include <optional>
