@@ -133,7 +133,6 @@ TEST_F(ReaderPreferencesTest, ValuesAtTheLimitsAreKeptAndBeyondThemReplacedByThe
     }
   }
 }
-}
 
 TEST_F(ReaderPreferencesTest, StoredPreferencesAreReadBackAtTheNextStart) {
   const std::string path = folder.File("Vireo.ini");
