@@ -23,12 +23,9 @@ class TempFolder {
 
 std::string ReadFile(const std::string& path);
 void WriteFile(const std::string& path, const std::string& content);
+inline bool FileExists(const std::string& path) { return std::filesystem::exists(path); }
 
 // The folder with the built programs and the helper library.
 std::string BinFolder();
 
-}  // namespace vireo::test
-
-namespace vireo::test {
-inline bool FileExists(const std::string& path) { return std::filesystem::exists(path); }
 }  // namespace vireo::test

@@ -5,8 +5,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <optional>
 #include <string>
 #include <vector>
@@ -46,26 +44,10 @@ class Recorder : public vireo::PrintPageObserver {
   std::vector<std::pair<int, size_t>> images;
 };
 
-using vireo::fuzz::TakeByte;
-
-// Whole, fractional, partly zero (so that prefixes fit the line exactly over
-// several lengths) or partly negative widths.
-clsFontMetrics Tables(uint32_t seed, uint8_t mode) {
-  return vireo::fuzz::SeededTables(seed, [mode](uint32_t r) {
-    const double widths[] = {10.0 * (1 + r % 8), (r % 3000) / 7.0, (r % 3) * 50.0,
-                             static_cast<double>(r % 400) - 40};
-    return widths[mode % 4];
-  });
-}
-
-void Check(bool condition, const char* what) {
-  if (!condition) {
-    std::fprintf(stderr, "composer_fuzz: %s\n", what);
-    std::abort();
-  }
-}
-
 }  // namespace
+
+using vireo::fuzz::Check;
+using vireo::fuzz::TakeByte;
 
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
   vireo::fuzz::StartUp();
@@ -84,7 +66,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
       (TakeByte(data, size) << 4 | TakeByte(data, size)) * ((flags & 4) ? 10 : 10 / 3.0);
   uint32_t seed = 1;
   for (int i = 0; i < 4; ++i) seed = seed * 131 + TakeByte(data, size);
-  const clsFontMetrics metrics = Tables(seed | 1, flags >> 3);
+  const clsFontMetrics metrics = vireo::fuzz::ModeTables(seed | 1, flags >> 3, 10, 8, 10, 50);
   FuzzImages images(flags >> 5);
   settings.page_text.assign(reinterpret_cast<const char*>(data), size);
 

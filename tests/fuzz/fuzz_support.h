@@ -25,6 +25,14 @@ inline void StartUp() {
   SetLoggingDisabled(true);
 }
 
+// Stops the run with a finding when condition fails.
+inline void Check(bool condition, const char* what) {
+  if (!condition) {
+    std::fprintf(stderr, "fuzz finding: %s\n", what);
+    std::abort();
+  }
+}
+
 // The next byte of the input; 0 once it is used up.
 inline uint8_t TakeByte(const uint8_t*& data, size_t& size) {
   if (size == 0) return 0;
@@ -48,6 +56,18 @@ clsFontMetrics SeededTables(uint32_t seed, WidthOf width_of) {
     metrics.SetTable(style & 1, style & 2, table);
   }
   return metrics;
+}
+
+// Four kinds of width tables picked by mode: whole (base plus up to spread),
+// fractional, partly zero (steps of zero_step, so that prefixes fit a line
+// exactly over several lengths) or partly negative widths.
+inline clsFontMetrics ModeTables(uint32_t seed, uint8_t mode, double base, uint32_t spread,
+                                 double step, double zero_step) {
+  return SeededTables(seed, [=](uint32_t r) {
+    const double widths[] = {base + step * (r % spread), (r % 3000) / 7.0, (r % 3) * zero_step,
+                             static_cast<double>(r % 400) - 40};
+    return widths[mode % 4];
+  });
 }
 
 // A scratch file of this process for a target that reads its input from a

@@ -4,7 +4,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 
 #include "../layout/literal_paginator.h"
@@ -29,16 +28,8 @@ struct Input {
   int32_t reading_position = 1;
 };
 
+using vireo::fuzz::Check;
 using vireo::fuzz::TakeByte;
-
-// Tables from a seed: whole, fractional or partly zero and negative widths.
-clsFontMetrics Tables(uint32_t seed, uint8_t mode) {
-  return vireo::fuzz::SeededTables(seed, [mode](uint32_t r) {
-    const double widths[] = {50.0 + r % 150, (r % 3000) / 7.0, (r % 3) * 75.0,
-                             static_cast<double>(r % 400) - 40};
-    return widths[mode % 4];
-  });
-}
 
 Input Decode(const uint8_t* data, size_t size) {
   Input in;
@@ -54,16 +45,9 @@ Input Decode(const uint8_t* data, size_t size) {
   in.reading_position = TakeByte(data, size) << 8 | TakeByte(data, size);
   uint32_t seed = 1;
   for (int i = 0; i < 4; ++i) seed = seed * 131 + TakeByte(data, size);
-  in.metrics = Tables(seed | 1, flags >> 3);
+  in.metrics = vireo::fuzz::ModeTables(seed | 1, flags >> 3, 50, 150, 1, 75);
   in.text.assign(reinterpret_cast<const char*>(data), size);
   return in;
-}
-
-void Check(bool condition, const char* what) {
-  if (!condition) {
-    fprintf(stderr, "paginator_fuzz: %s\n", what);
-    abort();
-  }
 }
 
 }  // namespace

@@ -109,32 +109,28 @@ TEST_F(ReaderPreferencesTest, AWrongTypedValueIsLoggedAndTheRestAreRead) {
 }
 
 TEST_F(ReaderPreferencesTest, ValuesAtTheLimitsAreKeptAndBeyondThemReplacedByTheDefault) {
+  // A value at a limit and one just beyond it.
   const struct {
     NumberPreference preference;
-    double value;
-    bool kept;
+    double kept, rejected;
   } cases[] = {
-      {FontSizePreference(), 6, true},
-      {FontSizePreference(), 5, false},
-      {FontSizePreference(), 48, true},
-      {FontSizePreference(), 49, false},
-      {LeftBorderPreference(), 100, true},
-      {LeftBorderPreference(), 1001, false},
-      {BottomBorderPreference(), 150, false},
-      {BottomBorderPreference(), 200, true},
-      {TextureNumPreference(), -1, true},
-      {TextureNumPreference(), -2, false},
-      {TextureNumPreference(), 3, true},
-      {TextureNumPreference(), 4, false},
-      {ColourPreference("InkColour", 0), 0xFFFFFF, true},
-      {ColourPreference("InkColour", 0), 0x1000000, false},
+      {FontSizePreference(), 6, 5},
+      {FontSizePreference(), 48, 49},
+      {LeftBorderPreference(), 100, 1001},
+      {BottomBorderPreference(), 200, 150},
+      {TextureNumPreference(), -1, -2},
+      {TextureNumPreference(), 3, 4},
+      {ColourPreference("InkColour", 0), 0xFFFFFF, 0x1000000},
   };
   for (const auto& c : cases) {
-    sset(c.preference.key, c.value);
-    const double read = ReadNumberPreference(c.preference);
-    EXPECT_EQ(read, c.kept ? c.value : c.preference.default_value) << c.preference.key << c.value;
-    EXPECT_EQ(GlobalSettings()->SettingPresent(c.preference.key), c.kept)
-        << "a rejected value is not saved again";
+    for (const bool kept : {true, false}) {
+      const double value = kept ? c.kept : c.rejected;
+      sset(c.preference.key, value);
+      EXPECT_EQ(ReadNumberPreference(c.preference), kept ? value : c.preference.default_value)
+          << c.preference.key << value;
+      EXPECT_EQ(GlobalSettings()->SettingPresent(c.preference.key), kept)
+          << "a rejected value is not saved again";
+    }
   }
 }
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
+
 #include "test_support.h"
 
 namespace vireo {
@@ -10,12 +12,7 @@ namespace {
 // 2026-03-04 05:06:07 local time, whatever the zone.
 std::time_t FixedTime() {
   std::tm local{};
-  local.tm_year = 126;
-  local.tm_mon = 2;
-  local.tm_mday = 4;
-  local.tm_hour = 5;
-  local.tm_min = 6;
-  local.tm_sec = 7;
+  strptime("2026-03-04 05:06:07", "%Y-%m-%d %H:%M:%S", &local);
   local.tm_isdst = -1;
   return std::mktime(&local);
 }
