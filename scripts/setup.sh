@@ -8,6 +8,7 @@ packages=(
   qt6-base-dev libgl-dev fonts-liberation2 xvfb xauth
   libgtest-dev libgmock-dev libbenchmark-dev libfmt-dev
   bible-kjv binutils
+  dpkg-dev file lintian desktop-file-utils appstream
 )
 
 missing=()

@@ -108,7 +108,7 @@ QWidget* OpenDialog(vireo::MainWindow& window) {
   if (which == nullptr) return nullptr;
   if (std::string_view(which) == "about") return window.help().ShowAbout();
   if (std::string_view(which) != "report") return nullptr;
-  auto* form = new vireo::fSHAREDErrorRpt(window.logic().context().location.folder,
+  auto* form = new vireo::fSHAREDErrorRpt(window.logic().context().location.StateFolder(),
                                           vireo::OpenAddress, &window);
   form->setAttribute(Qt::WA_DeleteOnClose);
   form->ShowError("Subscript out of range in sub showpage(9) of module frmMain");
@@ -164,8 +164,7 @@ int main(int argc, char* argv[]) {
   } else {
     user.reset(qt_user);
   }
-  vireo::MainWindow window(*user,
-                           vireo::ProgramLocation{vireo::ProgramFolder(), vireo::ExecutablePath()});
+  vireo::MainWindow window(*user, vireo::LocateRunningProgram());
   if (qt_user != nullptr) qt_user->set_parent(&window);
   const std::function<void()> started = QuitOnSignals(window);
   vireo::SetErrorObserver(
