@@ -175,6 +175,11 @@ int main(int argc, char* argv[]) {
     return 1;
   }
   window.show();
+  // A book named on the command line (the desktop's "open with") is offered
+  // once the reader's own book is loaded, as a dropped file is.
+  if (const QStringList arguments = QApplication::arguments(); arguments.size() > 1) {
+    window.logic().commands().OpenNamedFile(arguments.at(1).toLocal8Bit().toStdString());
+  }
   started();
   const char* keys = std::getenv("VIREO_KEYS");
   PressKeys(window, keys != nullptr ? keys : "",

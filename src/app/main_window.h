@@ -57,6 +57,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   void SetMenuTick(std::string_view item, bool ticked) override;
   void SetMenuEnabled(std::string_view item, bool enabled) override;
   void ShowContextMenu() override;
+  void ShowOptionsMenuAtPage() override;
   PageChooser& PageDialog() override;
   void Milestone(std::string_view what) override;
 
@@ -64,6 +65,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
@@ -72,6 +74,8 @@ class MainWindow : public QMainWindow, public MainWindowView {
   void ConnectMenu();
   void ConnectPlannedItems();
   void OpenAddress(const QString& address);
+  // Open...: the file dialog, then the chosen file offered to the reader.
+  void OpenBookFile();
   void OnPageMouse(int page, QEvent::Type type, Qt::MouseButton button,
                    Qt::KeyboardModifiers modifiers, double x, double y);
   void PlaceControlBar();
@@ -101,6 +105,8 @@ class MainWindow : public QMainWindow, public MainWindowView {
   std::unique_ptr<SplashWindow> splash_;
   QString exit_caption_;
   int end_status_ = -1;
+  static constexpr int kWheelNotch = 120;
+  int wheel_rest_ = 0;  // wheel turning short of a whole notch
 };
 
 }  // namespace vireo
