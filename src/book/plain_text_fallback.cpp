@@ -14,7 +14,7 @@ struct Fallback {
 
 // The formatting codes' characters.
 constexpr Fallback kFormattingCodeFallbacks[] = {
-    {0x20AC, "EUR"}, {0x201A, "'"}, {0x0192, "f"}, {0x201E, "\""},
+    {0x20AC, "EUR"}, {0x201A, "'"}, {0x0192, "f"},  {0x201E, "\""},
     {0x2026, "..."}, {0x2020, "+"}, {0x2021, "++"}, {0x02C6, "^"},
 };
 

@@ -44,7 +44,8 @@ std::vector<CharacterReplacement> ReplacementTally::Kinds() const {
 std::vector<std::string> ReplacementReport(const std::vector<CharacterReplacement>& kinds) {
   std::vector<std::string> lines;
   for (const CharacterReplacement& kind : kinds) {
-    const std::string what = fmt::format("{} \u00D7 {}", kind.count, CharacterName(kind.code_point));
+    const std::string what =
+        fmt::format("{} \u00D7 {}", kind.count, CharacterName(kind.code_point));
     if (kind.written == "?") {
       lines.push_back(what + " " + GetTranslation("had no place in the book and show as ?"));
     } else if (kind.written.empty()) {

@@ -67,7 +67,9 @@ TEST(OpeningFiles, ANamedFileOpensAsADroppedOneAndAnEbookNeedsNoBookType) {
     return PackBody(PackableText(text, TextEncoding::kWindows1252), "Author", "Title");
   };
   test::WriteFile(reader.folder.File("story.brn"), packed("A packed story."));
-  test::WriteFile(reader.folder.File("Novel"), EbookFile("\x7f" "ELF program", packed("Novel.")));
+  test::WriteFile(reader.folder.File("Novel"), EbookFile("\x7f"
+                                                         "ELF program",
+                                                         packed("Novel.")));
   test::WriteFile(reader.folder.File("broken.brn"), "no packed book at all");
   test::WriteFile(reader.folder.File("notes.doc"), "a document");
 
@@ -112,7 +114,8 @@ TEST(FileTypeRegistration, NamesTheReaderNeverAnEbookCopyNorATemporaryOne) {
 TEST(FileTypeRegistration, AnOddReaderPathStaysOneArgumentOnOneLine) {
   test::TempFolder folder;
   setenv("XDG_DATA_HOME", folder.File("xdg").c_str(), 1);
-  ASSERT_TRUE(WriteFileTypeRegistration("/opt/Odd \"name\" $HOME `id` 100% back\\slash\nExec=evil"));
+  ASSERT_TRUE(
+      WriteFileTypeRegistration("/opt/Odd \"name\" $HOME `id` 100% back\\slash\nExec=evil"));
   const std::string entry = test::ReadFile(folder.File("xdg/applications/vireo.desktop"));
   EXPECT_THAT(entry, HasSubstr(R"(
 Exec="/opt/Odd \\"name\\" \\$HOME \\`id\\` 100%% back\\\\slash\nExec=evil" %f

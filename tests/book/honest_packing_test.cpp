@@ -30,9 +30,14 @@ TEST(HonestPacking, TheFormattingCodesCharactersArriveAsPlainTextAndAreReported)
     std::string shown;  // UTF-8
   };
   const Case cases[] = {
-      {"5 \x80", "5 EUR"},  {"\x82quoted'", "'quoted'"}, {"\x83(x)", "f(x)"},
-      {"\x84quoted\"", "\"quoted\""}, {"wait\x85 then", "wait\xE2\x80\xA6 then"},
-      {"d. 1900\x86", "d. 1900+"},   {"note\x87", "note++"},  {"x\x88y", "x^y"},
+      {"5 \x80", "5 EUR"},
+      {"\x82quoted'", "'quoted'"},
+      {"\x83(x)", "f(x)"},
+      {"\x84quoted\"", "\"quoted\""},
+      {"wait\x85 then", "wait\xE2\x80\xA6 then"},
+      {"d. 1900\x86", "d. 1900+"},
+      {"note\x87", "note++"},
+      {"x\x88y", "x^y"},
       {"a\x81z", "a?z"},
   };
   for (const Case& c : cases) {
@@ -59,9 +64,13 @@ TEST(HonestPacking, CharactersOutsideWindows1252AreTransliteratedOrShownAsQuesti
                           "1 \xC3\x97 \xD0\x96 had no place in the book and show as ?"));
   // Letters lose only the accents Windows-1252 lacks; a combining accent joins its letter
   // where Windows-1252 has the pair; ligatures, dashes and spaces get their plain forms.
-  EXPECT_EQ(ReadBack("\xC5\x81\xC3\xB3" "d\xC5\xBA, Erd\xC5\x91s, Cafe\xCC\x81, z\xCC\x81"),
-            "L\xC3\xB3" "dz, Erdos, Caf\xC3\xA9, z");
-  EXPECT_EQ(ReadBack("\xEF\xAC\x81nal \xE2\x80\x90 a\xE2\x80\x89" "b \xE2\x88\x92" "1"),
+  EXPECT_EQ(ReadBack("\xC5\x81\xC3\xB3"
+                     "d\xC5\xBA, Erd\xC5\x91s, Cafe\xCC\x81, z\xCC\x81"),
+            "L\xC3\xB3"
+            "dz, Erdos, Caf\xC3\xA9, z");
+  EXPECT_EQ(ReadBack("\xEF\xAC\x81nal \xE2\x80\x90 a\xE2\x80\x89"
+                     "b \xE2\x88\x92"
+                     "1"),
             "final - a b -1");
 }
 
