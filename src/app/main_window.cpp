@@ -17,6 +17,7 @@
 #include <QUrl>
 #include <QWheelEvent>
 
+#include "app/create_ebook_dialog.h"
 #include "app/key_map.h"
 #include "app/open_book_dialog.h"
 #include "app/page_setup_qt.h"
@@ -139,8 +140,7 @@ void MainWindow::ConnectPlannedItems() {
   connect(menu_->Item("mnuSave"), &QAction::triggered, this,
           say("Export will save the book as a text file. It is not available in this version."));
   connect(menu_->Item("mnuEbook"), &QAction::triggered, this,
-          say("Create ebook will make a self-contained ebook from a text file. Until it is "
-              "here, use vireo-tool make."));
+          [this] { ShowCreateEbook(logic_, user_, this); });
   const auto settings = [this] { ShowPageSetup(logic_, user_, this); };
   connect(bar_->cmdPageSetup, &QPushButton::clicked, this, settings);
   connect(menu_->Item("mnuColours"), &QAction::triggered, this, settings);

@@ -30,6 +30,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   ControlBarWidget& bar() { return *bar_; }
   OptionsMenu& menu() { return *menu_; }
   HelpDialogs& help() { return *help_; }
+  UserInteraction& user() { return user_; }
   SplashWindow* splash() const { return splash_.get(); }
   const QString& exit_caption() const { return exit_caption_; }
   // The status the program ended with (EndProgram), -1 while running.
