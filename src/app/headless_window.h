@@ -39,6 +39,7 @@ class HeadlessWindowView : public MainWindowView, public PageChooser {
   }
   void SetMenuEnabled(std::string_view, bool) override {}
   void ShowContextMenu() override {}
+  void ShowOptionsMenuAtPage() override {}
   PageChooser& PageDialog() override { return *this; }
   std::optional<int> ChoosePage(int, int) override { return chosen_page; }
 

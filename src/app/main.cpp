@@ -13,6 +13,7 @@
 #include <string>
 #include <string_view>
 
+#include "app/create_ebook_dialog.h"
 #include "app/error_report_dialog.h"
 #include "app/interaction_qt.h"
 #include "app/main_window.h"
@@ -101,12 +102,20 @@ void PressKeys(vireo::MainWindow& window, std::string keys, std::function<void()
   });
 }
 
-// VIREO_DIALOG=about|report: the about window, or the error-report form
-// for an example error, opened over the window (the screenshot shows it).
+// VIREO_DIALOG=about|report|ebook: the about window, the error-report form
+// for an example error, or the Create ebook dialog, opened over the window
+// (the screenshot shows it).
 QWidget* OpenDialog(vireo::MainWindow& window) {
   const char* which = std::getenv("VIREO_DIALOG");
   if (which == nullptr) return nullptr;
   if (std::string_view(which) == "about") return window.help().ShowAbout();
+  if (std::string_view(which) == "ebook") {
+    vireo::frmMakeEbook* dialog =
+        vireo::MakeCreateEbookDialog(window.logic(), window.user(), &window).release();
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->show();
+    return dialog;
+  }
   if (std::string_view(which) != "report") return nullptr;
   auto* form = new vireo::fSHAREDErrorRpt(window.logic().context().location.StateFolder(),
                                           vireo::OpenAddress, &window);
@@ -174,6 +183,11 @@ int main(int argc, char* argv[]) {
     return 1;
   }
   window.show();
+  // A book named on the command line (the desktop's "open with") is offered
+  // once the reader's own book is loaded, as a dropped file is.
+  if (const QStringList arguments = QApplication::arguments(); arguments.size() > 1) {
+    window.logic().commands().OpenNamedFile(arguments.at(1).toLocal8Bit().toStdString());
+  }
   started();
   const char* keys = std::getenv("VIREO_KEYS");
   PressKeys(window, keys != nullptr ? keys : "",

@@ -71,7 +71,7 @@ TEST(ReaderMenu, TheOptionsMenuHasEveryItemInOrder) {
   test::ReaderWindow reader("A short book.");
   const OptionsMenu& menu = reader.window().menu();
   EXPECT_EQ(MenuNames(menu),
-            "mnuEraseBookmarks mnuFile [mnuLoad mnuPrint mnuSave mnuEbook - mnuErasefile ] "
+            "mnuEraseBookmarks mnuFile [mnuOpen mnuLoad mnuPrint mnuSave mnuEbook - mnuErasefile ] "
             "mnuColours mnuSelectFont - mnuSearch [mnuGetSearchTerm mnuFindNext mnuFindPrevious ] "
             "mnuGoto - mnuCopyPage - mnuFormat [mnuFormatting mnuJustified mnuIndentParagraphs "
             "mnuUnderscores mnuExtraLine ] - mnuLanguage [mnuSetLang0 mnuSetLang1 ] mnuPayAuthor "

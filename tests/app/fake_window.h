@@ -27,10 +27,12 @@ class FakeWindowView : public HeadlessWindowView {
     (splash ? splash_status : progress_shown).emplace_back(text);
   }
   void ShowContextMenu() override { ++context_menus; }
+  void ShowOptionsMenuAtPage() override { ++menus_at_page; }
 
   std::vector<std::string> splash_status;
   std::vector<std::string> progress_shown;  // after the splash
   int context_menus = 0;
+  int menus_at_page = 0;
 };
 
 // Answers every box with `answer` (else the default) and `yes`, keeping what was asked.
