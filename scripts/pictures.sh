@@ -2,8 +2,8 @@
 # Sets up, builds, and writes pictures of the sample book as the reader shows
 # it at the default window size: the whole window, the first spread in
 # two-page and in single-page mode, the title page of a reader without a
-# book, the settings dialog, the about window, the error-report form and the
-# Create ebook dialog.
+# book, the settings dialog, the about window, the error-report form, the
+# Open dialog and the Create ebook dialog.
 #   scripts/pictures.sh [OUTPUT_FOLDER]   (default: build/pictures)
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -34,6 +34,9 @@ cp "$bin/samples/genesis.txt" "$work/"
 QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_DIALOG=ebook \
   VIREO_EBOOK_TEXT="$work/genesis.txt" VIREO_SCREENSHOT="$out/create-ebook.png" \
   "$work/Genesis" >/dev/null
+# The Open dialog (Ctrl+O), in the program's folder.
+QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_DIALOG=open \
+  VIREO_SCREENSHOT="$out/open-book.png" "$work/Genesis" >/dev/null
 rm -f "$work/Vireo.ini" "$work/BookMarks.ini"
 "$work/vireo-tool" render "$work/Genesis" --page 1 -o "$out/first-spread.png"
 "$work/vireo-tool" render "$work/Genesis" --page 1 --single -o "$out/first-page-single.png"

@@ -17,6 +17,7 @@
 #include "app/error_report_dialog.h"
 #include "app/interaction_qt.h"
 #include "app/main_window.h"
+#include "app/open_book_dialog.h"
 #include "app/page_setup_qt.h"
 #include "support/error_trap.h"
 #include "support/platform.h"
@@ -112,6 +113,12 @@ QWidget* OpenDialog(vireo::MainWindow& window) {
   if (std::string_view(which) == "ebook") {
     vireo::frmMakeEbook* dialog =
         vireo::MakeCreateEbookDialog(window.logic(), window.user(), &window).release();
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->show();
+    return dialog;
+  }
+  if (std::string_view(which) == "open") {
+    QFileDialog* dialog = vireo::NewOpenBookDialog(&window, window.logic().context().prefs.path);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->show();
     return dialog;

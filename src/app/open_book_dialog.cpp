@@ -17,11 +17,21 @@ std::optional<std::string> ChooseBookFile(QWidget* parent, const std::string& fo
     if (chosen == nullptr) return std::nullopt;
     return std::string(chosen);
   }
-  const QString path = QFileDialog::getOpenFileName(
-      parent, QString::fromStdString(GetTranslation("Open a book")),
-      QString::fromLocal8Bit(folder.c_str()), QString::fromStdString(OpenDialogFilter()));
-  if (path.isEmpty()) return std::nullopt;
-  return path.toLocal8Bit().toStdString();
+  QFileDialog* dialog = NewOpenBookDialog(parent, folder);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  if (dialog->exec() != QDialog::Accepted || dialog->selectedFiles().isEmpty()) {
+    return std::nullopt;
+  }
+  return dialog->selectedFiles().front().toLocal8Bit().toStdString();
+}
+
+QFileDialog* NewOpenBookDialog(QWidget* parent, const std::string& folder) {
+  auto* dialog = new QFileDialog(parent, QString::fromStdString(GetTranslation("Open a book")),
+                                 QString::fromLocal8Bit(folder.c_str()),
+                                 QString::fromStdString(OpenDialogFilter()));
+  dialog->setFileMode(QFileDialog::ExistingFile);
+  dialog->setAcceptMode(QFileDialog::AcceptOpen);
+  return dialog;
 }
 
 }  // namespace vireo

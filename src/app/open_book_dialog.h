@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFileDialog>
 #include <QWidget>
 #include <optional>
 #include <string>
@@ -12,5 +13,8 @@ namespace vireo {
 // the file named by VIREO_OPEN_FILE is chosen (written to standard error as
 // "[input] Open: PATH"), or the dialog counts as cancelled.
 std::optional<std::string> ChooseBookFile(QWidget* parent, const std::string& folder);
+
+// That dialog, not yet shown (the pictures show it over the window).
+QFileDialog* NewOpenBookDialog(QWidget* parent, const std::string& folder);
 
 }  // namespace vireo
