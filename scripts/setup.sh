@@ -8,7 +8,9 @@ packages=(
   qt6-base-dev libgl-dev fonts-liberation2 xvfb xauth
   libgtest-dev libgmock-dev libbenchmark-dev libfmt-dev
   bible-kjv binutils
+  qt6-speech-dev qt6-declarative-dev poppler-utils
 )
+# A speech engine is optional: without one, reading aloud says what to install.
 
 missing=()
 for package in "${packages[@]}"; do

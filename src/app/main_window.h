@@ -11,6 +11,7 @@
 #include "app/help_dialogs_qt.h"
 #include "app/interaction_qt.h"
 #include "app/options_menu_qt.h"
+#include "app/peripheral_services_qt.h"
 #include "app/splash_window.h"
 
 namespace vireo {
@@ -30,6 +31,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   ControlBarWidget& bar() { return *bar_; }
   OptionsMenu& menu() { return *menu_; }
   HelpDialogs& help() { return *help_; }
+  QtPeripheralServices& services() { return *services_; }
   SplashWindow* splash() const { return splash_.get(); }
   const QString& exit_caption() const { return exit_caption_; }
   // The status the program ended with (EndProgram), -1 while running.
@@ -58,6 +60,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   void SetMenuEnabled(std::string_view item, bool enabled) override;
   void ShowContextMenu() override;
   PageChooser& PageDialog() override;
+  PeripheralServices& Services() override { return *services_; }
   void Milestone(std::string_view what) override;
 
  protected:
@@ -71,6 +74,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   void ConnectCommands();
   void ConnectMenu();
   void ConnectPlannedItems();
+  void ConnectServices();
   void OpenAddress(const QString& address);
   void OnPageMouse(int page, QEvent::Type type, Qt::MouseButton button,
                    Qt::KeyboardModifiers modifiers, double x, double y);
@@ -96,6 +100,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   ControlBarWidget* bar_;
   OptionsMenu* menu_;
   QLabel* progress_;  // the loading status once the splash is gone
+  std::unique_ptr<QtPeripheralServices> services_;
   frmMain logic_;
   HelpDialogs* help_;
   std::unique_ptr<SplashWindow> splash_;

@@ -11,6 +11,7 @@
 #include "app/frm_main.h"
 #include "app/headless_window.h"
 #include "book/book_maker.h"
+#include "app/fake_services.h"
 #include "fake_pump.h"
 #include "prefs/settings_get_set.h"
 #include "render/fake_page_buffers.h"
@@ -27,10 +28,12 @@ class FakeWindowView : public HeadlessWindowView {
     (splash ? splash_status : progress_shown).emplace_back(text);
   }
   void ShowContextMenu() override { ++context_menus; }
+  PeripheralServices& Services() override { return services; }
 
   std::vector<std::string> splash_status;
   std::vector<std::string> progress_shown;  // after the splash
   int context_menus = 0;
+  FakeServices services;
 };
 
 // Answers every box with `answer` (else the default) and `yes`, keeping what was asked.
