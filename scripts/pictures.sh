@@ -28,6 +28,12 @@ for dialog in about:about-window report:error-report; do
   QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_DIALOG="${dialog%%:*}" \
     VIREO_SCREENSHOT="$out/${dialog#*:}.png" "$work/Genesis" >/dev/null
 done
+# The manual's help window (F1) and the print preview of the first two pages.
+cp -r "$bin/manual" "$work/"
+for dialog in help:help-window print-preview:print-preview; do
+  QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_DIALOG="${dialog%%:*}" \
+    VIREO_SCREENSHOT="$out/${dialog#*:}.png" "$work/Genesis" >/dev/null
+done
 rm -f "$work/Vireo.ini" "$work/BookMarks.ini"
 "$work/vireo-tool" render "$work/Genesis" --page 1 -o "$out/first-spread.png"
 "$work/vireo-tool" render "$work/Genesis" --page 1 --single -o "$out/first-page-single.png"
