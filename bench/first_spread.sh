@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
-# Times the reader from process start to the first spread on screen, and to
+# Times the reader from process start to the first spread on screen and to
 # the end of pagination, on an ebook (default: the whole-Bible sample, about
-# 4.3 MB of text). Prints the median of several runs in milliseconds.
+# 4.3 MB of text), beside the floor: a bare Qt window of the same size from
+# start to its first frame. Prints medians of several runs in milliseconds,
+# and the peak memory of both (maximum resident set size).
 #   bench/first_spread.sh [BUILD_BIN_FOLDER] [BOOK] [RUNS]
 set -euo pipefail
 bin="${1:-build/release/bin}"
@@ -11,17 +13,36 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cp "$book" "$bin/libvHtml.so" "$bin"/paper*.jpg "$work/" 2>/dev/null || cp "$book" "$bin/libvHtml.so" "$work/"
 name=$(basename "$book")
-firsts=()
-finishes=()
-for _ in $(seq "$runs"); do
+
+# Runs a program with timing on; prints "<ms to the milestone> <peak KB>".
+timed_run() {
+  local milestone="$1"
+  shift
+  local start
   start=$(date +%s%3N)
   QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_TIMING=1 VIREO_QUIT_AFTER_MS=0 \
-    XDG_DATA_HOME="$work/xdg" XDG_RUNTIME_DIR="$work" "$work/$name" 2>"$work/err" >/dev/null
-  first=$(awk '/\[timing\] first spread/ {print $4}' "$work/err")
-  finish=$(awk '/\[timing\] pagination finished/ {print $4}' "$work/err")
-  firsts+=($((first - start)))
-  finishes+=($((finish - start)))
+    XDG_DATA_HOME="$work/xdg" XDG_RUNTIME_DIR="$work" \
+    /usr/bin/time -f "[peak] %M" "$@" 2>"$work/err" >/dev/null
+  local at peak
+  at=$(awk -v m="$milestone" 'index($0, "[timing] " m " ") == 1 {print $NF}' "$work/err")
+  peak=$(awk '/^\[peak\]/ {print $2}' "$work/err")
+  echo "$((at - start)) $peak"
+  if [ "$milestone" = "first spread" ]; then
+    at=$(awk '/\[timing\] pagination finished/ {print $NF}' "$work/err")
+    echo "$((at - start)) $peak" >>"$work/finish"
+  fi
+}
+median() { sort -n | awk '{a[NR]=$1} END {print a[int((NR+1)/2)]}'; }
+
+: >"$work/reader"
+: >"$work/bare"
+: >"$work/finish"
+for _ in $(seq "$runs"); do
+  timed_run "first frame" "$bin/vireo_bare_window" >>"$work/bare"
+  timed_run "first spread" "$work/$name" >>"$work/reader"
 done
-median() { printf '%s\n' "$@" | sort -n | awk '{a[NR]=$1} END {print a[int((NR+1)/2)]}'; }
-echo "first spread on screen: $(median "${firsts[@]}") ms (median of $runs)"
-echo "pagination finished:    $(median "${finishes[@]}") ms (median of $runs)"
+text=$("$bin/vireo-tool" info "$work/$name" | awk '/^unpacked:/ {print $2}')
+echo "first spread on screen: $(cut -d' ' -f1 "$work/reader" | median) ms (median of $runs)"
+echo "pagination finished:    $(cut -d' ' -f1 "$work/finish" | median) ms"
+echo "bare window first frame: $(cut -d' ' -f1 "$work/bare" | median) ms"
+echo "peak memory: reader $(cut -d' ' -f2 "$work/reader" | median) KB, bare window $(cut -d' ' -f2 "$work/bare" | median) KB, book text $((text / 1024)) KB"

@@ -6,18 +6,8 @@
 #include <benchmark/benchmark.h>
 
 #if defined(VIREO_BENCH_HAS_QT)
-#include <filesystem>
-#include <fstream>
-
-#include "app/book_canvas_widget.h"
-#include "app/control_bar_widget.h"
-#include "app/frm_main.h"
-#include "app/headless_window.h"
-#include "app/interaction_qt.h"
-#include "bench_qt.h"
+#include "reader_on_canvas.h"
 #include "book/book_maker.h"
-#include "support/logging.h"
-#include "support/vhtml_library.h"
 
 namespace vireo {
 namespace {
@@ -34,33 +24,11 @@ std::string Prose(int paragraphs) {
 }
 
 void BM_InstantTurnFromCache(benchmark::State& state) {
-  bench::EnsureApplication();
-  TheVHtml().Load(VIREO_BIN_DIR);
-  SetLoggingDisabled(true);
-  const auto folder = std::filesystem::temp_directory_path() / "vireo-turn-bench";
-  std::filesystem::create_directories(folder);
-  qputenv("XDG_DATA_HOME", (folder / "xdg").string().c_str());
-  {
-    std::ofstream settings(folder / "Vireo.ini", std::ios::binary);
-    settings << "INSTANTPAGETURN,True\r\n";
-    std::ofstream book(folder / "Book", std::ios::binary);
-    book << EbookFile(
-        "stub", PackBody(PackableText(Prose(3000), TextEncoding::kWindows1252), "Author", "Title"));
-  }
-  StderrInteraction user;
-  QtMessagePump pump;
-  HeadlessWindowView view;
-  BookCanvasWidget canvas;
-  // The lamp repaints itself at every change, as on the window's control bar.
-  ControlBarWidget bar(&canvas);
-  canvas.SetLampWidget(bar.Shape1);
-  frmMain reader(view, canvas, user, pump,
-                 ProgramLocation{folder.string(), (folder / "Book").string()});
-  reader.lifecycle().Form_Load();
-  canvas.resize(static_cast<int>(view.size.width / BookCanvasWidget::kTwipsPerPixel),
-                static_cast<int>(view.size.height / BookCanvasWidget::kTwipsPerPixel));
-  canvas.show();
-  QCoreApplication::processEvents();
+  bench::ReaderOnCanvas on_canvas(
+      "vireo-turn-bench", "INSTANTPAGETURN,True\r\n",
+      EbookFile("stub", PackBody(PackableText(Prose(3000), TextEncoding::kWindows1252), "Author",
+                                 "Title")));
+  frmMain& reader = on_canvas.reader;
   const int last = reader.pages().count - 4;
   for (auto _ : state) {
     if (reader.current_page() >= last) {
@@ -73,7 +41,6 @@ void BM_InstantTurnFromCache(benchmark::State& state) {
     QCoreApplication::processEvents();
   }
   state.counters["pages"] = reader.pages().count;
-  std::filesystem::remove_all(folder);
 }
 BENCHMARK(BM_InstantTurnFromCache)->Unit(benchmark::kMillisecond);
 

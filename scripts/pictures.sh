@@ -2,7 +2,8 @@
 # Sets up, builds, and writes pictures of the sample book as the reader shows
 # it at the default window size: the whole window, the first spread in
 # two-page and in single-page mode, the title page of a reader without a
-# book, the settings dialog, the about window and the error-report form.
+# book, the settings dialog, the about window, the error-report form, the
+# Create ebook dialog, the help window and the print preview.
 #   scripts/pictures.sh [OUTPUT_FOLDER]   (default: build/pictures)
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -28,6 +29,11 @@ for dialog in about:about-window report:error-report; do
   QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_DIALOG="${dialog%%:*}" \
     VIREO_SCREENSHOT="$out/${dialog#*:}.png" "$work/Genesis" >/dev/null
 done
+# The Create ebook dialog (frmMakeEbook) with the sample text chosen.
+cp "$bin/samples/genesis.txt" "$work/"
+QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_DIALOG=ebook \
+  VIREO_EBOOK_TEXT="$work/genesis.txt" VIREO_SCREENSHOT="$out/create-ebook.png" \
+  "$work/Genesis" >/dev/null
 # The manual's help window (F1) and the print preview of the first two pages.
 cp -r "$bin/manual" "$work/"
 for dialog in help:help-window print-preview:print-preview; do

@@ -7,7 +7,8 @@ packages=(
   cmake ninja-build g++ clang libclang-rt-14-dev clang-format
   qt6-base-dev libgl-dev fonts-liberation2 xvfb xauth
   libgtest-dev libgmock-dev libbenchmark-dev libfmt-dev
-  bible-kjv binutils
+  bible-kjv binutils time
+  dpkg-dev file lintian desktop-file-utils appstream
   qt6-speech-dev qt6-declarative-dev poppler-utils
 )
 # A speech engine is optional: without one, reading aloud says what to install.

@@ -7,7 +7,7 @@
 
 namespace vireo::tool {
 
-// vireo-tool make TEXT -o OUT [--stub PATH] [--author A] [--title T]
+// vireo-tool make TEXT -o OUT [--brn] [--stub PATH] [--author A] [--title T]
 int RunMake(const Arguments& arguments);
 // vireo-tool text FILE [--no-reformat] [--underscores] [--extra-line] [--brn|--bfl]
 int RunText(const Arguments& arguments);

@@ -1,4 +1,5 @@
-// vireo-tool make: packs a text into a self-contained ebook.
+// vireo-tool make: packs a text into a self-contained ebook, or with --brn
+// into a stand-alone packed book.
 
 #include <cstdio>
 #include <filesystem>
@@ -39,6 +40,8 @@ int RunMake(const Arguments& arguments) {
     } else if (argument == "--title") {
       request.title = arguments[++i];
       has_title = true;
+    } else if (argument == "--brn") {
+      request.form = MakeForm::kBrn;
     } else if (argument.starts_with("-") || !request.text_path.empty()) {
       return Fail("make: unexpected argument " + argument);
     } else {
@@ -46,12 +49,16 @@ int RunMake(const Arguments& arguments) {
     }
   }
   if (request.text_path.empty() || request.out_path.empty()) {
-    return Fail("usage: vireo-tool make TEXT -o OUT [--stub PATH] [--author A] [--title T]");
+    return Fail(
+        "usage: vireo-tool make TEXT -o OUT [--brn] [--stub PATH] [--author A] [--title T]");
   }
   if (!has_title) request.title = DefaultTitle(request.text_path);
   const MakeResult result = MakeEbook(request);
   if (!result.ok) return Fail(result.message);
   std::printf("%s\n", result.message.c_str());
+  for (const std::string& line : ReplacementReport(result.replacements)) {
+    std::printf("%s\n", line.c_str());
+  }
   return 0;
 }
 

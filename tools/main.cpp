@@ -23,7 +23,7 @@ namespace {
 
 const ToolCommand kCommands[] = {
     {"help", "help", nullptr},
-    {"make", "make TEXT -o OUT [--stub PATH] [--author A] [--title T]", RunMake},
+    {"make", "make TEXT -o OUT [--brn] [--stub PATH] [--author A] [--title T]", RunMake},
     {"text", "text FILE [--no-reformat] [--underscores] [--extra-line] [--brn|--bfl]", RunText},
     {"info", "info FILE", RunInfo},
     {"pages",

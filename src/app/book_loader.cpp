@@ -25,7 +25,7 @@ void BookLoader::OpenBook(const std::string& path) {
   const FormattingOptions options{context_.reformat, context_.prefs.underscores,
                                   context_.prefs.extra_paragraph_line};
   BookReadResult book =
-      ReadEmbeddedBook(path, options, [this](std::string_view caption, int value, int maximum) {
+      ReadBookFile(path, options, [this](std::string_view caption, int value, int maximum) {
         ShowProgress(caption, value, maximum);
       });
   context_.view.ShowProgress("");

@@ -16,9 +16,10 @@ class BookLoader {
   BookLoader(ReaderContext& context, BookSession& session);
 
   // Loads the book appended to the file at path (the program's own
-  // executable at start-up, a dropped file, the book again after a
-  // formatting change). Without the header marker the person is told there
-  // is no ebook in the file and the open book stays as it was.
+  // executable at start-up, a dropped or named file, the book again after a
+  // formatting change), or the stand-alone packed book a ".brn"/".bfl" file
+  // holds. Without a book the person is told there is no ebook in the file
+  // and the open book stays as it was.
   void OpenBook(const std::string& path);
 
  private:

@@ -153,7 +153,7 @@ void BookSpread::SetFontStyle(const std::string& name) {
 
 void BookSpread::LoadPaperTextures() {
   Trap("sub loadtextures", kModule, [&] {
-    for (const TextureFile& file : LoadTextures(context_.location.folder)) {
+    for (const TextureFile& file : LoadTextures(context_.location.DataFolder())) {
       context_.buffers.LoadTexture(file.slot, file.path);
     }
   });

@@ -7,6 +7,7 @@
 
 #include "support/file_io.h"
 #include "support/platform.h"
+#include "support/translation.h"
 
 namespace vireo {
 namespace {
@@ -93,9 +94,44 @@ void WriteIfChanged(const std::string& path, const std::string& content) {
 
 }  // namespace
 
+std::string OpenDialogFilter() {
+  return GetTranslation("Books") + " (*.brn *.bfl *.txt *.text *.vrtxt *.vrhtm *.htm *.html)" +
+         ";;" + GetTranslation("All files") + " (*)";
+}
+
+std::optional<std::string> RegistrationTarget(
+    const std::string& executable_path, const std::string& temporary_folder,
+    const std::function<bool(const std::string&)>& exists) {
+  namespace fs = std::filesystem;
+  const fs::path program = fs::path(executable_path).lexically_normal();
+  if (!temporary_folder.empty()) {
+    const fs::path inside = program.lexically_relative(fs::path(temporary_folder).lexically_normal());
+    if (!inside.empty() && *inside.begin() != "..") return std::nullopt;
+  }
+  const std::string reader_name = "Vireo" + std::string(kExecutableSuffix);
+  if (program.filename() == reader_name) return program.string();
+  const std::string beside = (program.parent_path() / reader_name).string();
+  if (exists(beside)) return beside;
+  return std::nullopt;
+}
+
 bool RegisterFileTypes(const std::string& executable_path) {
+  std::error_code no_folder;
+  const std::filesystem::path temporary = std::filesystem::temp_directory_path(no_folder);
+  const auto canonical = [](const std::filesystem::path& path) {
+    std::error_code error;
+    const std::filesystem::path found = std::filesystem::weakly_canonical(path, error);
+    return error ? path.string() : found.string();
+  };
+  const auto target = RegistrationTarget(canonical(executable_path),
+                                         no_folder ? "" : canonical(temporary),
+                                         [](const std::string& path) { return FileExists(path); });
+  return target && WriteFileTypeRegistration(*target);
+}
+
+bool WriteFileTypeRegistration(const std::string& reader_path) {
   const std::string data_home = DataHome();
-  const auto entry = DesktopEntry(executable_path);
+  const auto entry = DesktopEntry(reader_path);
   if (data_home.empty() || !entry) return false;
   try {
     WriteIfChanged(JoinPath(data_home, "mime/packages/vireo-books.xml"), MimePackage());

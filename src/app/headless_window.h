@@ -43,6 +43,7 @@ class HeadlessWindowView : public MainWindowView, public PageChooser {
     enabled_items[std::string(item)] = enabled;
   }
   void ShowContextMenu() override {}
+  void ShowOptionsMenuAtPage() override {}
   PageChooser& PageDialog() override { return *this; }
   PeripheralServices& Services() override { return services_; }
   std::optional<int> ChoosePage(int, int) override { return chosen_page; }

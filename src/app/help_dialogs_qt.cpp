@@ -37,7 +37,7 @@ void HelpDialogs::ErrorReached(const std::string& entry) {
 
 void HelpDialogs::ShowReport(const std::string& error) {
   report_due_ = true;
-  ShowErr(window_, error, logic_.context().location.folder);
+  ShowErr(window_, error, logic_.context().location.StateFolder());
   report_due_ = false;
 }
 

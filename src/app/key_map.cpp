@@ -7,9 +7,11 @@ KeyCommand CommandForKey(int virtual_key, ShiftKey shift) {
     case vk::kSpace:
       return shift == ShiftKey::kDown ? KeyCommand::kPreviousPage : KeyCommand::kNextPage;
     case vk::kRight:
+    case vk::kPageDown:
     case 'M':
       return KeyCommand::kNextPage;
     case vk::kLeft:
+    case vk::kPageUp:
     case 'Z':
       return KeyCommand::kPreviousPage;
     case '1':
@@ -32,6 +34,13 @@ KeyCommand CommandForKey(int virtual_key, ShiftKey shift) {
       return KeyCommand::kQuit;
     case vk::kF1:
       return KeyCommand::kHelp;
+    case vk::kHome:
+      return KeyCommand::kFirstSpread;
+    case vk::kEnd:
+      return KeyCommand::kLastSpread;
+    case vk::kF10:
+    case vk::kMenu:
+      return KeyCommand::kOptionsMenu;
     default:
       return KeyCommand::kNone;
   }

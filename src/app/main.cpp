@@ -13,6 +13,7 @@
 #include <string>
 #include <string_view>
 
+#include "app/create_ebook_dialog.h"
 #include "app/error_report_dialog.h"
 #include "app/interaction_qt.h"
 #include "app/main_window.h"
@@ -112,9 +113,10 @@ void PressKeys(vireo::MainWindow& window, std::string keys, std::function<void()
   });
 }
 
-// VIREO_DIALOG=about|report|help|print-preview: the about window, the
-// error-report form for an example error, the manual, or the print preview
-// of the first pages, opened over the window (the screenshot shows it).
+// VIREO_DIALOG=about|report|ebook|help|print-preview: the about window, the
+// error-report form for an example error, the Create ebook dialog, the
+// manual, or the print preview of the first pages, opened over the window
+// (the screenshot shows it).
 QWidget* OpenDialog(vireo::MainWindow& window) {
   const char* which = std::getenv("VIREO_DIALOG");
   if (which == nullptr) return nullptr;
@@ -130,8 +132,15 @@ QWidget* OpenDialog(vireo::MainWindow& window) {
     preview->show();
     return preview;
   }
+  if (std::string_view(which) == "ebook") {
+    vireo::frmMakeEbook* dialog =
+        vireo::MakeCreateEbookDialog(window.logic(), window.user(), &window).release();
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->show();
+    return dialog;
+  }
   if (std::string_view(which) != "report") return nullptr;
-  auto* form = new vireo::fSHAREDErrorRpt(window.logic().context().location.folder,
+  auto* form = new vireo::fSHAREDErrorRpt(window.logic().context().location.StateFolder(),
                                           vireo::OpenAddress, &window);
   form->setAttribute(Qt::WA_DeleteOnClose);
   form->ShowError("Subscript out of range in sub showpage(9) of module frmMain");
@@ -187,8 +196,7 @@ int main(int argc, char* argv[]) {
   } else {
     user.reset(qt_user);
   }
-  vireo::MainWindow window(*user,
-                           vireo::ProgramLocation{vireo::ProgramFolder(), vireo::ExecutablePath()});
+  vireo::MainWindow window(*user, vireo::LocateRunningProgram());
   if (qt_user != nullptr) qt_user->set_parent(&window);
   const std::function<void()> started = QuitOnSignals(window);
   vireo::SetErrorObserver(
@@ -198,6 +206,11 @@ int main(int argc, char* argv[]) {
     return 1;
   }
   window.show();
+  // A book named on the command line (the desktop's "open with") is offered
+  // once the reader's own book is loaded, as a dropped file is.
+  if (const QStringList arguments = QApplication::arguments(); arguments.size() > 1) {
+    window.logic().commands().OpenNamedFile(arguments.at(1).toLocal8Bit().toStdString());
+  }
   started();
   const char* keys = std::getenv("VIREO_KEYS");
   PressKeys(window, keys != nullptr ? keys : "", [&window, &user] {

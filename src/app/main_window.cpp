@@ -15,8 +15,11 @@
 #include <QMimeData>
 #include <QShortcut>
 #include <QUrl>
+#include <QWheelEvent>
 
+#include "app/create_ebook_dialog.h"
 #include "app/key_map.h"
+#include "app/open_book_dialog.h"
 #include "app/page_setup_qt.h"
 #include "nav/page_nav_dialog.h"
 #include "nav/page_nav_mouse.h"
@@ -98,6 +101,8 @@ void MainWindow::ConnectMenu() {
   SearchCommands& search = logic_.search();
   on("mnuExit", [this] { logic_.lifecycle().Quit(); });
   on("mnuLoad", [this] { logic_.lifecycle().mnuLoad_Click(); });
+  on("mnuOpen", [this] { OpenBookFile(); });
+  addAction(menu_->Item("mnuOpen"));  // Ctrl+O works with the menu closed
   on("mnuEraseBookmarks", [&commands] { commands.mnuEraseBookmarks_Click(); });
   on("mnuErasefile", [&commands] { commands.mnuErasefile_Click(); });
   on("mnuGetSearchTerm", [&search] { search.GetSearchTerm(); });
@@ -124,8 +129,7 @@ void MainWindow::ConnectPlannedItems() {
   connect(bar_->cmdAbout, &QPushButton::clicked, this, about);
   connect(menu_->Item("mnuAbout"), &QAction::triggered, this, about);
   connect(menu_->Item("mnuEbook"), &QAction::triggered, this,
-          say("Create ebook will make a self-contained ebook from a text file. Until it is "
-              "here, use vireo-tool make."));
+          [this] { ShowCreateEbook(logic_, user_, this); });
   const auto settings = [this] { ShowPageSetup(logic_, user_, this); };
   connect(bar_->cmdPageSetup, &QPushButton::clicked, this, settings);
   connect(menu_->Item("mnuColours"), &QAction::triggered, this, settings);
@@ -193,6 +197,17 @@ void MainWindow::OnPageMouse(int page, QEvent::Type type, Qt::MouseButton button
 }
 
 void MainWindow::ShowContextMenu() { menu_->popup(QCursor::pos()); }
+
+void MainWindow::ShowOptionsMenuAtPage() {
+  const auto& frame = canvas_->layout().frame1;
+  const QPoint at = frame ? QPoint(Pixels(frame->x), Pixels(frame->y)) : QPoint(0, 0);
+  menu_->popup(canvas_->mapToGlobal(at));
+}
+
+void MainWindow::OpenBookFile() {
+  const auto path = ChooseBookFile(this, logic_.context().prefs.path);
+  if (path) logic_.commands().OpenNamedFile(*path);
+}
 
 void MainWindow::ShowSplash() {
   splash_ = std::make_unique<SplashWindow>();
@@ -370,6 +385,18 @@ int VirtualKey(int qt_key) {
       return vk::kRight;
     case Qt::Key_F1:
       return vk::kF1;
+    case Qt::Key_F10:
+      return vk::kF10;
+    case Qt::Key_Menu:
+      return vk::kMenu;
+    case Qt::Key_PageUp:
+      return vk::kPageUp;
+    case Qt::Key_PageDown:
+      return vk::kPageDown;
+    case Qt::Key_Home:
+      return vk::kHome;
+    case Qt::Key_End:
+      return vk::kEnd;
     default:
       return (qt_key >= '0' && qt_key <= 'Z') ? qt_key : 0;
   }
@@ -381,6 +408,16 @@ void MainWindow::keyReleaseEvent(QKeyEvent* event) {
   if (event->isAutoRepeat()) return;
   const ShiftKey shift = event->modifiers() & Qt::ShiftModifier ? ShiftKey::kDown : ShiftKey::kUp;
   logic_.commands().Form_KeyUp(VirtualKey(event->key()), shift);
+  event->accept();
+}
+
+// One turn per notch of 120 eighths of a degree; a fine-grained wheel adds
+// up to whole notches.
+void MainWindow::wheelEvent(QWheelEvent* event) {
+  wheel_rest_ += event->angleDelta().y();
+  const int notches = wheel_rest_ / kWheelNotch;
+  wheel_rest_ -= notches * kWheelNotch;
+  if (notches != 0) logic_.commands().Page_Wheel(notches);
   event->accept();
 }
 

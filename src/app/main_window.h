@@ -32,6 +32,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   OptionsMenu& menu() { return *menu_; }
   HelpDialogs& help() { return *help_; }
   QtPeripheralServices& services() { return *services_; }
+  UserInteraction& user() { return user_; }
   SplashWindow* splash() const { return splash_.get(); }
   const QString& exit_caption() const { return exit_caption_; }
   // The status the program ended with (EndProgram), -1 while running.
@@ -59,6 +60,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   void SetMenuTick(std::string_view item, bool ticked) override;
   void SetMenuEnabled(std::string_view item, bool enabled) override;
   void ShowContextMenu() override;
+  void ShowOptionsMenuAtPage() override;
   PageChooser& PageDialog() override;
   PeripheralServices& Services() override { return *services_; }
   void Milestone(std::string_view what) override;
@@ -67,6 +69,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
@@ -76,6 +79,8 @@ class MainWindow : public QMainWindow, public MainWindowView {
   void ConnectPlannedItems();
   void ConnectServices();
   void OpenAddress(const QString& address);
+  // Open...: the file dialog, then the chosen file offered to the reader.
+  void OpenBookFile();
   void OnPageMouse(int page, QEvent::Type type, Qt::MouseButton button,
                    Qt::KeyboardModifiers modifiers, double x, double y);
   void PlaceControlBar();
@@ -106,6 +111,8 @@ class MainWindow : public QMainWindow, public MainWindowView {
   std::unique_ptr<SplashWindow> splash_;
   QString exit_caption_;
   int end_status_ = -1;
+  static constexpr int kWheelNotch = 120;
+  int wheel_rest_ = 0;  // wheel turning short of a whole notch
 };
 
 }  // namespace vireo

@@ -69,6 +69,8 @@ class MainWindowView : public ProgressDisplay {
   virtual void SetMenuEnabled(std::string_view item, bool enabled) = 0;
   // The pages' right-click menu at the pointer.
   virtual void ShowContextMenu() = 0;
+  // The same menu opened from the keyboard, at the top of the left page.
+  virtual void ShowOptionsMenuAtPage() = 0;
   // The page dialog (frmPageNav) that Goto Page shows.
   virtual PageChooser& PageDialog() = 0;
   // The manual, printer, clipboard, browser, common dialogs and speech.

@@ -1,11 +1,15 @@
 #include "app/options_menu_qt.h"
 
+#include "support/translation.h"
+
 namespace vireo {
 
 OptionsMenu::OptionsMenu(QWidget* parent) : QMenu("Options", parent) {
   setObjectName("Options");
   Add(this, "mnuEraseBookmarks", "Erase All Bookmarks");
   QMenu* file = AddSubmenu("mnuFile", "File");
+  Add(file, "mnuOpen", QString::fromStdString(GetTranslation("Open...")))
+      ->setShortcut(QKeySequence::Open);
   Add(file, "mnuLoad", "Load");
   Add(file, "mnuPrint", "Print");
   Add(file, "mnuPrintSetup", "Print Setup");

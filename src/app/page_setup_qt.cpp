@@ -10,7 +10,7 @@ namespace vireo {
 
 std::unique_ptr<frmSettings> MakePageSetup(frmMain& logic, UserInteraction& user, QWidget* parent) {
   std::array<std::string, 4> textures;
-  for (const TextureFile& file : LoadTextures(logic.context().location.folder)) {
+  for (const TextureFile& file : LoadTextures(logic.context().location.DataFolder())) {
     textures.at(static_cast<size_t>(file.slot)) = file.path;
   }
   const WindowColours& system = logic.context().system_colours;

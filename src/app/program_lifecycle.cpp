@@ -49,7 +49,7 @@ std::string ProgramLifecycle::ProgramFolderString(const std::string& folder) {
 }
 
 bool ProgramLifecycle::CheckRequiredLibrary() {
-  if (TheVHtml().Load(context_.location.folder)) return true;
+  if (TheVHtml().Load(context_.location.DataFolder())) return true;
   context_.user.ShowMessage(VHtmlLibrary::FileName() +
                                 " is required. This DLL is contained in the Vireo installer at " +
                                 std::string(kMakerHomePage),
@@ -58,7 +58,7 @@ bool ProgramLifecycle::CheckRequiredLibrary() {
 }
 
 bool ProgramLifecycle::Form_Load() {
-  SetLogFolder(context_.location.folder);
+  SetLogFolder(context_.location.StateFolder());
   if (!CheckRequiredLibrary()) return false;
   RunStartupSteps();
   return true;
@@ -68,7 +68,7 @@ void ProgramLifecycle::RunStartupSteps() {
   MainWindowView& view = context_.view;
   MessagePump& pump = context_.pump;
   const std::string& folder = context_.location.folder;
-  StartupStep([&] { settings_path_ = JoinPath(folder, "Vireo.ini"); });
+  StartupStep([&] { settings_path_ = JoinPath(context_.location.SettingsFolder(), "Vireo.ini"); });
   StartupStep([&] {
     LogAction("Resetting cache");
     spread_.cache().ResetCache();
@@ -90,11 +90,15 @@ void ProgramLifecycle::RunStartupSteps() {
     view.ShowProgress("Loading Settings");
     pump.Yield();
     LoadSettings(settings_path_);
-    SetBookmarksFolder(folder);
+    SetBookmarksFolder(context_.location.SettingsFolder());
   });
   // FIXME: the language list and menu are filled once translation files land.
   StartupStep([&] { view.ShowProgress("Setting up"); });
   StartupStep([&] {
+    if (context_.location.installed) {
+      LogAction("File extensions are registered by the installation");
+      return;
+    }
     LogAction(GetTranslation("Registering File Extensions"));
     RegisterFileTypes(context_.location.executable_path);
   });

@@ -1,9 +1,11 @@
 #include "app/reader_commands.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <cstdio>
 #include <iterator>
 
+#include "book/ebook_stub.h"
 #include "nav/bookmarks.h"
 #include "prefs/settings_get_set.h"
 #include "support/error_trap.h"
@@ -19,6 +21,12 @@ constexpr std::string_view kModule = "frmMain";
 // upper-cased name, so that NOTES.TXT.OLD passes too.
 constexpr std::string_view kDroppableTypes[] = {".TXT", ".BRN", ".BFL", ".RTF",
                                                 ".TEX", ".VRH", ".VRT", ".HTM"};
+
+bool HasDroppableName(const std::string& path) {
+  const std::string name = UpperCase(path);
+  return std::any_of(std::begin(kDroppableTypes), std::end(kDroppableTypes),
+                     [&](std::string_view type) { return name.find(type) != std::string::npos; });
+}
 
 }  // namespace
 
@@ -64,6 +72,13 @@ bool ReaderCommands::Form_KeyUp(int virtual_key, ShiftKey shift) {
         return lifecycle_.Quit();
       case KeyCommand::kHelp:
         return mnuHelp_Click();
+      case KeyCommand::kFirstSpread:
+        return ShowEnd(false);
+      case KeyCommand::kLastSpread:
+        return ShowEnd(true);
+      case KeyCommand::kOptionsMenu:
+        context_.menu_page_box = -1;  // opened on no page: Copy Page takes the right one
+        return context_.view.ShowOptionsMenuAtPage();
       case KeyCommand::kNone:
         return;
     }
@@ -103,17 +118,46 @@ void ReaderCommands::SetMarker(int frame, int line, double top, double bottom) {
 
 void ReaderCommands::Page_OLEDragDrop(const std::string& path) {
   Trap("sub page_oledragdrop", kModule, [&] {
-    const std::string name = UpperCase(path);
-    const bool known =
-        std::any_of(std::begin(kDroppableTypes), std::end(kDroppableTypes),
-                    [&](std::string_view type) { return name.find(type) != std::string::npos; });
-    if (!known) {
+    if (!HasDroppableName(path)) {
       context_.user.ShowMessage(GetTranslation("Cannot load that type of file"), "Vireo");
       return;
     }
-    if (context_.book.loaded) session_.StoreCurrentBookmark();
-    loader_.OpenBook(path);
+    LoadOffered(path);
   });
+}
+
+void ReaderCommands::OpenNamedFile(const std::string& path) {
+  Trap("sub opennamedfile", kModule, [&] {
+    if (!HasDroppableName(path) && !LooksLikeProgram(path)) {
+      context_.user.ShowMessage(GetTranslation("Cannot load that type of file"), "Vireo");
+      return;
+    }
+    LoadOffered(path);
+  });
+}
+
+void ReaderCommands::LoadOffered(const std::string& path) {
+  if (context_.book.loaded) session_.StoreCurrentBookmark();
+  loader_.OpenBook(path);
+}
+
+void ReaderCommands::Page_Wheel(int notches) {
+  Trap("sub page_wheel", kModule, [&] {
+    for (int turned = 0; turned < std::abs(notches); ++turned) {
+      if (context_.reindex.Busy() || context_.reading.busy) return;
+      if (notches > 0) {
+        spread_.PreviousPage();
+      } else {
+        spread_.NextPage();
+      }
+    }
+  });
+}
+
+void ReaderCommands::ShowEnd(bool last) {
+  const int page_count = context_.book.PageCount();
+  if (page_count == 0 || context_.reading.busy) return;
+  spread_.ShowPage(last ? page_count : 1);
 }
 
 void ReaderCommands::GotoPage() {

@@ -33,6 +33,14 @@ class ReaderCommands {
   void Page_Mouse(const PageMouseEvent& event);
   // A file dropped on a page: loaded when its name shows a book type.
   void Page_OLEDragDrop(const std::string& path);
+  // A file named on the command line or chosen with Open...: loaded as a
+  // dropped file is, and also when it is a program (an ebook, whose name
+  // need not show a book type).
+  void OpenNamedFile(const std::string& path);
+  // The mouse wheel turned by notches (positive away from the reader):
+  // one turn back per notch away, forward per notch towards; a notch that
+  // comes while a turn or a pagination runs is dropped.
+  void Page_Wheel(int notches);
 
   void GotoPage();
   void mnuFormatting_Click();
@@ -52,6 +60,10 @@ class ReaderCommands {
  private:
   // The formatting options take effect when the book text is loaded again.
   void ReloadBook();
+  // Loads an offered file, keeping the open book's reading position first.
+  void LoadOffered(const std::string& path);
+  // Home and End: the first or the last spread of the open book.
+  void ShowEnd(bool last);
   void SetMarker(int frame, int line, double top, double bottom);
 
   ReaderContext& context_;

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "app/main_window_view.h"
+#include "app/program_location.h"
 #include "layout/reindex.h"
 #include "prefs/reader_preferences.h"
 #include "render/book_pages.h"
@@ -11,12 +12,6 @@
 #include "support/user_interaction.h"
 
 namespace vireo {
-
-// Where the program runs from.
-struct ProgramLocation {
-  std::string folder;           // without a trailing separator
-  std::string executable_path;  // full path of the running executable
-};
 
 // What the rooms of the main window's logic share: the window system's two
 // seams, the person, the message pump, and the reader's state. frmMain owns

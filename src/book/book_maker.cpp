@@ -2,13 +2,13 @@
 
 #include <array>
 #include <cstdint>
-#include <cstring>
 #include <filesystem>
 #include <optional>
 
 #include "book/ebook_stub.h"
 #include "book/load_file.h"
 #include "book/make_request_check.h"
+#include "book/plain_text_fallback.h"
 #include "book/scrambling.h"
 #include "book/word_table.h"
 #include "support/file_io.h"
@@ -51,9 +51,9 @@ void AppendReference(std::string& out, char32_t code_point) {
 
 class Escaper {
  public:
-  explicit Escaper(Field field) : escape_(MustEscape(field)) {
+  Escaper(Field field, ReplacementTally* tally) : escape_(MustEscape(field)), tally_(tally) {
     for (int byte = 0; byte < 256; ++byte) {
-      plain_[byte] = !escape_[byte];
+      plain_[byte] = !escape_[byte] && !IsFormattingCode(static_cast<uint8_t>(byte));
       plain_ascii_[byte] = plain_[byte] && byte < 0x80;
     }
   }
@@ -68,7 +68,10 @@ class Escaper {
   }
 
   void Byte(std::string& out, uint8_t byte) const {
-    if (!escape_[byte]) {
+    if (IsFormattingCode(byte)) {
+      const char32_t code_point = Windows1252ToUnicode(byte);
+      Replace(out, code_point, PlainTextFallback(code_point));
+    } else if (!escape_[byte]) {
       out.push_back(static_cast<char>(byte));
     } else if (byte == '&') {
       // "&#38;" would turn into "&" before the named references are read,
@@ -82,53 +85,44 @@ class Escaper {
   void CodePoint(std::string& out, char32_t code_point) const {
     if (const std::optional<uint8_t> byte = UnicodeToWindows1252(code_point)) {
       Byte(out, *byte);
-    } else if (code_point < 0x100) {
-      out.push_back('?');  // a C1 control: "&#N;" would be read as Windows-1252
+    } else if (IsCombiningMark(code_point)) {
+      Mark(out, code_point);
     } else {
-      AppendReference(out, code_point);
+      Replace(out, code_point, PlainTextFallback(code_point));
     }
   }
 
  private:
+  // A combining mark joins the letter before it when Windows-1252 has the
+  // pair as one letter; otherwise the accent is dropped.
+  void Mark(std::string& out, char32_t mark) const {
+    if (!out.empty()) {
+      if (const auto letter = ComposedLetter(static_cast<uint8_t>(out.back()), mark)) {
+        out.pop_back();
+        Byte(out, *letter);
+        return;
+      }
+    }
+    Replace(out, mark, "");
+  }
+
+  void Replace(std::string& out, char32_t code_point, std::string_view written) const {
+    for (const char c : written) Byte(out, static_cast<uint8_t>(c));
+    if (tally_ != nullptr) tally_->Count(code_point, written);
+  }
+
   std::array<bool, 256> escape_;
   std::array<bool, 256> plain_{};
   std::array<bool, 256> plain_ascii_{};
+  ReplacementTally* tally_;
 };
 
-// The next UTF-8 character at index (advancing it), or nullopt when the
-// bytes there are not valid UTF-8.
-std::optional<char32_t> NextUtf8(std::string_view bytes, size_t& index) {
-  const uint8_t lead = static_cast<uint8_t>(bytes[index]);
-  int length = 0;
-  char32_t value = 0;
-  if (lead < 0x80) {
-    ++index;
-    return lead;
-  } else if (lead >= 0xC2 && lead <= 0xDF) {
-    length = 2, value = lead & 0x1F;
-  } else if (lead >= 0xE0 && lead <= 0xEF) {
-    length = 3, value = lead & 0x0F;
-  } else if (lead >= 0xF0 && lead <= 0xF4) {
-    length = 4, value = lead & 0x07;
-  } else {
-    return std::nullopt;
+std::string Packable(std::string_view input, TextEncoding encoding, Field field,
+                     ReplacementTally* tally) {
+  if (encoding == TextEncoding::kUtf16LittleEndian || encoding == TextEncoding::kUtf16BigEndian) {
+    return Packable(Utf8FromUtf16(input, encoding), TextEncoding::kUtf8, field, tally);
   }
-  if (bytes.size() - index < static_cast<size_t>(length)) return std::nullopt;
-  for (int i = 1; i < length; ++i) {
-    const uint8_t next = static_cast<uint8_t>(bytes[index + static_cast<size_t>(i)]);
-    if ((next & 0xC0) != 0x80) return std::nullopt;
-    value = (value << 6) | (next & 0x3F);
-  }
-  const char32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
-  if (value < smallest[length] || value > 0x10FFFF || (value >= 0xD800 && value <= 0xDFFF)) {
-    return std::nullopt;
-  }
-  index += static_cast<size_t>(length);
-  return value;
-}
-
-std::string Packable(std::string_view input, TextEncoding encoding, Field field) {
-  const Escaper escaper(field);
+  const Escaper escaper(field, tally);
   std::string out;
   out.reserve(input.size() + input.size() / 32);
   if (encoding == TextEncoding::kUtf8 && input.starts_with(kByteOrderMark)) {
@@ -150,8 +144,8 @@ std::string Packable(std::string_view input, TextEncoding encoding, Field field)
   return out;
 }
 
-std::string Detail(const std::string& typed) {
-  return PackableDetail(typed, DetectEncoding(typed));
+std::string Detail(const std::string& typed, ReplacementTally& tally) {
+  return PackableDetail(typed, DetectEncoding(typed), &tally);
 }
 
 // What a failure during stage is reported as. A full disk is the output's
@@ -181,29 +175,13 @@ std::string Filler(size_t length) {
 
 }  // namespace
 
-TextEncoding DetectEncoding(std::string_view bytes) {
-  if (bytes.starts_with(kByteOrderMark)) return TextEncoding::kUtf8;
-  bool non_ascii = false;
-  for (size_t index = 0; index < bytes.size();) {
-    if (uint64_t eight; bytes.size() - index >= sizeof(eight)) {  // ASCII, eight at a time
-      std::memcpy(&eight, bytes.data() + index, sizeof(eight));
-      if ((eight & 0x8080808080808080u) == 0) {
-        index += sizeof(eight);
-        continue;
-      }
-    }
-    if (static_cast<uint8_t>(bytes[index]) >= 0x80) non_ascii = true;
-    if (!NextUtf8(bytes, index)) return TextEncoding::kWindows1252;
-  }
-  return non_ascii ? TextEncoding::kUtf8 : TextEncoding::kWindows1252;
+std::string PackableText(std::string_view input, TextEncoding encoding, ReplacementTally* tally) {
+  return Packable(input, encoding, Field::kText, tally);
 }
 
-std::string PackableText(std::string_view input, TextEncoding encoding) {
-  return Packable(input, encoding, Field::kText);
-}
-
-std::string PackableDetail(std::string_view input, TextEncoding encoding) {
-  return Packable(input, encoding, Field::kDetail);
+std::string PackableDetail(std::string_view input, TextEncoding encoding,
+                           ReplacementTally* tally) {
+  return Packable(input, encoding, Field::kDetail, tally);
 }
 
 void AppendPackedBody(std::string& out, std::string_view text, std::string_view author,
@@ -255,33 +233,48 @@ MakeResult MakeEbook(const MakeRequest& request) {
     result.message = std::move(problem);
     return result;
   }
+  const auto progress = [&request](std::string_view caption, int percent) {
+    if (request.progress) request.progress(caption, percent, 100);
+  };
   std::string stage = "cannot read the text " + request.text_path;
   try {
+    progress("Reading the text", 10);
     std::string file = ReadWholeFile(request.text_path);
     const size_t input_size = file.size();
     if (file.empty()) {
       result.message = "the text " + request.text_path + " is empty";
       return result;
     }
+    result.encoding = DetectEncoding(file);
     stage = "cannot read the text " + request.text_path + " as UTF-8";
-    std::string text = PackableText(file, DetectEncoding(file));
-    const std::string out_folder =
-        std::filesystem::absolute(request.out_path).parent_path().string();
-    stage = "cannot use the stub " + request.stub_path;
-    // The ebook takes the input's place: that memory is paged in already,
+    progress("Converting the text", 25);
+    ReplacementTally tally;
+    std::string text = PackableText(file, result.encoding, &tally);
+    // The book takes the input's place: that memory is paged in already,
     // which spares the page faults of a fresh buffer as large as the book.
-    const std::string start = EbookFileStart(PrepareStub(request.stub_path, out_folder));
-    file.assign(start.data(), start.size());  // a copy keeps the buffer; a move would not
+    file.clear();
+    if (request.form == MakeForm::kEbook) {
+      stage = "cannot use the stub " + request.stub_path;
+      progress("Preparing the reader", 40);
+      const std::string out_folder =
+          std::filesystem::absolute(request.out_path).parent_path().string();
+      const std::string start = EbookFileStart(PrepareStub(request.stub_path, out_folder));
+      file.assign(start.data(), start.size());  // a copy keeps the buffer; a move would not
+    }
     const size_t body_start = file.size();
     stage = "cannot pack the book";
-    AppendPackedBody(file, text, Detail(request.author), Detail(request.title));
+    progress("Packing the book", 55);
+    AppendPackedBody(file, text, Detail(request.author, tally), Detail(request.title, tally));
     result.text_length = text.size();
     result.stored_size = file.size() - body_start;
     text = std::string();  // not needed while the file is written
     stage = "cannot write " + request.out_path;
+    progress("Writing the book", 80);
     WriteFileAtomically(request.out_path, file);
-    MarkExecutable(request.out_path);
+    if (request.form == MakeForm::kEbook) MarkExecutable(request.out_path);
+    progress("Done", 100);
     result.ok = true;
+    result.replacements = tally.Kinds();
     result.message = "made " + request.out_path + ": " + std::to_string(input_size) +
                      " bytes of text, book of " + std::to_string(result.stored_size) + " bytes";
   } catch (const std::exception& error) {

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <new>
+#include <optional>
 #include <stdexcept>
 
 #include "book/html_references.h"
@@ -88,6 +89,13 @@ void FinishText(clsBIN& bin, BookReadResult& result, const std::string& path) {
   result.has_book = true;
 }
 
+std::optional<PackedFileKind> PackedKindByName(const std::string& path) {
+  const std::string name = TrimmedLower(FileNamePart(path));
+  if (name.ends_with(".brn")) return PackedFileKind::kBrn;
+  if (name.ends_with(".bfl")) return PackedFileKind::kBfl;
+  return std::nullopt;
+}
+
 }  // namespace
 
 std::string NoBookMessage(const std::string& path) {
@@ -133,13 +141,14 @@ BookReadResult ReadEmbeddedBook(const std::string& path, const FormattingOptions
 }
 
 BookReadResult ReadPackedBookFile(const std::string& path, PackedFileKind kind,
-                                  const FormattingOptions& options) {
+                                  const FormattingOptions& options,
+                                  const ProgressHandler& progress) {
   BookReadResult result;
   if (!FileExists(path)) {
     result.message = "File not found: " + path;
     return result;
   }
-  clsBIN bin(options);
+  clsBIN bin(options, progress);
   if (kind == PackedFileKind::kBrn) {
     bin.ConvertAndLoadBRN(path);
   } else {
@@ -154,6 +163,24 @@ BookReadResult ReadPackedBookFile(const std::string& path, PackedFileKind kind,
     result.message = RecordLoadError();
   }
   return result;
+}
+
+}  // namespace vireo
+
+namespace vireo {
+
+BookReadResult ReadBookFile(const std::string& path, const FormattingOptions& options,
+                            const ProgressHandler& progress) {
+  BookReadResult book = ReadEmbeddedBook(path, options, progress);
+  const std::optional<PackedFileKind> kind = PackedKindByName(path);
+  if (book.has_book || !book.show_message || !kind) return book;
+  book = ReadPackedBookFile(path, *kind, options, progress);
+  if (book.has_book && (!book.damage.empty() || book.text.empty())) {
+    book = BookReadResult{};
+    book.message = GetTranslation("This file holds no book that can be read.") + "\n" + path;
+    book.show_message = true;
+  }
+  return book;
 }
 
 }  // namespace vireo

@@ -42,7 +42,16 @@ BookReadResult ReadEmbeddedBook(const std::string& path, const FormattingOptions
 // clsBIN and with its HTML references converted.
 enum class PackedFileKind { kBrn, kBfl };
 BookReadResult ReadPackedBookFile(const std::string& path, PackedFileKind kind,
-                                  const FormattingOptions& options);
+                                  const FormattingOptions& options,
+                                  const ProgressHandler& progress = nullptr);
+
+// Any book file the reader is given: an ebook (or any file holding the
+// markers) as ReadEmbeddedBook reads it; a file without the header marker
+// whose name ends in ".brn" or ".bfl" (any case) as a stand-alone packed
+// book. A packed book that does not unpack whole, or holds nothing, gives no
+// book and the message to show, so that the open book stays.
+BookReadResult ReadBookFile(const std::string& path, const FormattingOptions& options,
+                            const ProgressHandler& progress = nullptr);
 
 // The message LoadFile shows for a file without a header marker (already
 // translated): the stub's own message when path, trimmed and lower-cased,

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <fstream>
 
 #include "book/load_file.h"
 #include "support/file_io.h"
@@ -71,6 +72,14 @@ std::string StrippedCopy(const std::string& stub_path, const std::string& work_f
 }
 
 }  // namespace
+
+bool LooksLikeProgram(const std::string& path) {
+  std::ifstream in(path, std::ios::binary);
+  char start[4] = {};
+  if (!in.read(start, sizeof(start))) return false;
+  const std::string_view bytes(start, sizeof(start));
+  return bytes == std::string_view("\x7f" "ELF", 4) || bytes.starts_with("MZ");
+}
 
 bool HasSymbolTable(std::string_view bytes) {
   if (bytes.size() < 64 || bytes.substr(0, 4) !=

@@ -7,6 +7,10 @@ namespace vireo {
 
 // The reader executable that books are appended to.
 
+// True when the file at path starts as the platforms' executables do (ELF,
+// or the "MZ" of Windows). A missing or unreadable file gives false.
+bool LooksLikeProgram(const std::string& path);
+
 // True when bytes are an ELF executable that still carries a symbol table
 // (not stripped). Malformed or foreign files give false.
 bool HasSymbolTable(std::string_view bytes);

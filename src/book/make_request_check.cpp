@@ -4,8 +4,8 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 
+#include "book/ebook_stub.h"
 #include "support/platform.h"
 
 #if !defined(_WIN32)
@@ -16,15 +16,6 @@ namespace vireo {
 namespace {
 
 namespace fs = std::filesystem;
-
-// An executable as the platforms write them: ELF, or the "MZ" of Windows.
-bool LooksLikeProgram(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  char start[4] = {};
-  if (!in.read(start, sizeof(start))) return false;
-  const std::string_view bytes(start, sizeof(start));
-  return bytes == std::string_view("\x7f" "ELF", 4) || bytes.starts_with("MZ");
-}
 
 // Why no new file can be made in folder, or "" when one can: a file is
 // created there and removed again.
@@ -53,8 +44,11 @@ std::string OutputProblem(const MakeRequest& request) {
   if (SameFile(out, request.text_path)) {
     return "cannot write " + out + ": it is the text itself, and the ebook would replace it";
   }
-  if (SameFile(out, request.stub_path)) {
+  if (request.form == MakeForm::kEbook && SameFile(out, request.stub_path)) {
     return "cannot write " + out + ": it is the stub itself, and the ebook would replace it";
+  }
+  for (const std::string& kept : request.kept_paths) {
+    if (SameFile(out, kept)) return "cannot write " + out + ": it is in use by the reader";
   }
   const fs::path folder = fs::absolute(out, error).parent_path();
   if (!FolderExists(folder.string())) return "cannot write " + out + " (no such folder)";
@@ -73,9 +67,11 @@ bool SameFile(const std::string& first, const std::string& second) {
 
 std::string MakeRequestProblem(const MakeRequest& request) {
   if (FolderExists(request.text_path)) return "the text " + request.text_path + " is a folder";
-  if (FolderExists(request.stub_path)) return "the stub " + request.stub_path + " is a folder";
-  if (FileExists(request.stub_path) && !LooksLikeProgram(request.stub_path)) {
-    return "the stub " + request.stub_path + " is not a program";
+  if (request.form == MakeForm::kEbook) {
+    if (FolderExists(request.stub_path)) return "the stub " + request.stub_path + " is a folder";
+    if (FileExists(request.stub_path) && !LooksLikeProgram(request.stub_path)) {
+      return "the stub " + request.stub_path + " is not a program";
+    }
   }
   return OutputProblem(request);
 }

@@ -14,14 +14,18 @@
 // - A byte that no run holds ends no match, so a cut after such a byte splits
 //   the text into pieces that contract independently. The text goes through
 //   in pieces of about kChunk bytes, and memory stays small whatever its size.
+//   A big text is cut the same way into one part per processor core, and the
+//   parts are contracted at the same time.
 
 #include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstring>
+#include <exception>
 #include <span>
 #include <string>
 #include <string_view>
+#include <thread>
 #include <vector>
 
 #include "book/word_table.h"
@@ -30,6 +34,9 @@ namespace vireo {
 namespace {
 
 constexpr size_t kChunk = 64 * 1024;
+// Below this a text is contracted by one thread: starting another would cost
+// more than it saves.
+constexpr size_t kSmallestSplit = 4 * kChunk;
 
 // A row of two or more characters, as a run of input bytes (at most eight,
 // compared as one masked 64-bit load).
@@ -129,11 +136,13 @@ class ChunkContractor {
  public:
   explicit ChunkContractor(const ContractionPlan& plan) : plan_(plan), found_(plan.rows.size()) {}
 
-  // chunk must be followed by kPadding zero bytes (no run holds a zero).
-  void Contract(std::string_view chunk, std::string& out) {
+  // Writes the contracted chunk at `into` (never more bytes than the chunk
+  // has) and returns the end. chunk must be followed by kPadding zero bytes
+  // (no run holds a zero).
+  char* Contract(std::string_view chunk, char* into) {
     FindRuns(chunk);
     TakeRowByRow(chunk.size());
-    Write(chunk, out);
+    return Write(chunk, into);
   }
 
   static constexpr size_t kPadding = sizeof(uint64_t);
@@ -177,10 +186,7 @@ class ChunkContractor {
     }
   }
 
-  void Write(std::string_view chunk, std::string& out) const {
-    const size_t start = out.size();
-    out.resize(start + chunk.size());
-    char* written = out.data() + start;
+  char* Write(std::string_view chunk, char* written) const {
     for (size_t at = 0; at < chunk.size();) {
       if (const uint8_t mark = marks_[at]; mark != 0) {
         const RunRow& row = plan_.rows[mark - 1u];
@@ -191,7 +197,7 @@ class ChunkContractor {
         ++at;
       }
     }
-    out.resize(static_cast<size_t>(written - out.data()));
+    return written;
   }
 
   static constexpr uint8_t kInside = 0xFF;
@@ -238,21 +244,97 @@ class ChunkSource {
   size_t offset_ = 0;
 };
 
-}  // namespace
-
-void AppendContracted(std::string& out, std::span<const std::string_view> pieces) {
-  size_t total = 0;
-  for (std::string_view piece : pieces) total += piece.size();
-  out.reserve(out.size() + total);
-  const ContractionPlan& plan = Plan();
+// Contracts the concatenation of pieces into the buffer at `into`; returns
+// the end of what was written (at most as many bytes as the pieces hold).
+char* ContractInto(std::span<const std::string_view> pieces, char* into,
+                   const ContractionPlan& plan) {
   ChunkContractor contractor(plan);
   ChunkSource source(pieces, plan);
   std::string chunk;
   while (source.Next(chunk)) {
     const size_t size = chunk.size();
     chunk.append(ChunkContractor::kPadding, '\0');
-    contractor.Contract(std::string_view(chunk).substr(0, size), out);
+    into = contractor.Contract(std::string_view(chunk).substr(0, size), into);
   }
+  return into;
+}
+
+struct Part {
+  std::vector<std::string_view> pieces;
+  size_t size = 0;
+
+  void Add(std::string_view piece) {
+    pieces.push_back(piece);
+    size += piece.size();
+  }
+};
+
+// The concatenation of pieces in `count` parts of about equal size, each
+// cut just after a byte in no run, so that the parts contract independently.
+std::vector<Part> SplitAtCuts(std::span<const std::string_view> pieces, size_t total,
+                              size_t count, const ContractionPlan& plan) {
+  std::vector<Part> parts(1);
+  size_t seen = 0;
+  for (std::string_view piece : pieces) {
+    while (!piece.empty()) {
+      const size_t target = total * parts.size() / count;
+      size_t at = target > seen ? target - seen : 0;
+      if (parts.size() == count || at >= piece.size()) break;
+      while (at < piece.size() && !plan.cut_after[static_cast<uint8_t>(piece[at])]) ++at;
+      if (at == piece.size()) break;
+      parts.back().Add(piece.substr(0, at + 1));
+      seen += at + 1;
+      piece.remove_prefix(at + 1);
+      parts.emplace_back();
+    }
+    if (!piece.empty()) parts.back().Add(piece);
+    seen += piece.size();
+  }
+  return parts;
+}
+
+}  // namespace
+
+void AppendContracted(std::string& out, std::span<const std::string_view> pieces) {
+  size_t total = 0;
+  for (std::string_view piece : pieces) total += piece.size();
+  const ContractionPlan& plan = Plan();
+  const size_t cores = std::max(1u, std::thread::hardware_concurrency());
+  const size_t count = total < kSmallestSplit ? 1 : std::min<size_t>(cores, 8);
+  const std::vector<Part> parts = SplitAtCuts(pieces, total, count, plan);
+
+  // Each part writes where its input would start, then the results close up.
+  const size_t start = out.size();
+  out.resize(start + total);
+  std::vector<char*> ends(parts.size());
+  std::vector<std::exception_ptr> failures(parts.size());
+  const auto contract = [&](size_t index, char* into) {
+    try {
+      ends[index] = ContractInto(parts[index].pieces, into, plan);
+    } catch (...) {
+      failures[index] = std::current_exception();
+    }
+  };
+  std::vector<std::thread> helpers;
+  char* into = out.data() + start + parts.front().size;
+  for (size_t index = 1; index < parts.size(); ++index) {
+    helpers.emplace_back(contract, index, into);
+    into += parts[index].size;
+  }
+  contract(0, out.data() + start);
+  for (std::thread& helper : helpers) helper.join();
+  for (const std::exception_ptr& failure : failures) {
+    if (failure) std::rethrow_exception(failure);
+  }
+  char* end = ends.front();
+  into = out.data() + start + parts.front().size;
+  for (size_t index = 1; index < parts.size(); ++index) {
+    const size_t length = static_cast<size_t>(ends[index] - into);
+    std::memmove(end, into, length);
+    end += length;
+    into += parts[index].size;
+  }
+  out.resize(static_cast<size_t>(end - out.data()));
 }
 
 std::string ContractWords(std::string_view text) {

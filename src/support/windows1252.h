@@ -16,6 +16,9 @@ char32_t Windows1252ToUnicode(uint8_t code);
 // The Windows-1252 byte of a code point, or nullopt when it has none.
 std::optional<uint8_t> UnicodeToWindows1252(char32_t code_point);
 
+// Appends a code point (at most U+10FFFF) as UTF-8.
+void AppendUtf8(std::string& out, char32_t code_point);
+
 // Windows-1252 bytes as UTF-8, and back ('?' for characters without a byte).
 std::string Utf8FromWindows1252(std::string_view bytes);
 

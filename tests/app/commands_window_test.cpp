@@ -72,7 +72,7 @@ TEST(ReaderMenu, TheOptionsMenuHasEveryItemInOrder) {
   test::ReaderWindow reader("A short book.");
   const OptionsMenu& menu = reader.window().menu();
   EXPECT_EQ(MenuNames(menu),
-            "mnuEraseBookmarks mnuFile [mnuLoad mnuPrint mnuPrintSetup mnuSave mnuEbook - "
+            "mnuEraseBookmarks mnuFile [mnuOpen mnuLoad mnuPrint mnuPrintSetup mnuSave mnuEbook - "
             "mnuErasefile ] "
             "mnuColours mnuSelectFont - mnuSearch [mnuGetSearchTerm mnuFindNext mnuFindPrevious ] "
             "mnuGoto - mnuCopyPage mnuReadAloud mnuPauseReading - mnuFormat [mnuFormatting mnuJustified mnuIndentParagraphs "

@@ -29,11 +29,13 @@ class FakeWindowView : public HeadlessWindowView {
   }
   void ShowContextMenu() override { ++context_menus; }
   PeripheralServices& Services() override { return services; }
+  void ShowOptionsMenuAtPage() override { ++menus_at_page; }
 
   std::vector<std::string> splash_status;
   std::vector<std::string> progress_shown;  // after the splash
   int context_menus = 0;
   FakeServices services;
+  int menus_at_page = 0;
 };
 
 // Answers every box with `answer` (else the default) and `yes`, keeping what was asked.

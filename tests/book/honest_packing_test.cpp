@@ -1,0 +1,124 @@
+// What the maker writes for characters the book cannot show as themselves, and the
+// stand-alone packed book.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "book/book_maker.h"
+#include "book/book_reader.h"
+#include "support/windows1252.h"
+#include "test_support.h"
+
+namespace vireo {
+namespace {
+
+using ::testing::ElementsAre;
+
+// The text the reader holds for a book made from input, without reformatting, as UTF-8.
+std::string ReadBack(const std::string& input, ReplacementTally* tally = nullptr) {
+  test::TempFolder folder;
+  const std::string path = folder.File("book.brn");
+  test::WriteFile(path, PackBody(PackableText(input, DetectEncoding(input), tally), "A", "T"));
+  const BookReadResult book = ReadBookFile(path, {.reformat = false});
+  EXPECT_TRUE(book.has_book && book.damage.empty()) << book.message << book.damage;
+  return Utf8FromWindows1252(book.text);
+}
+
+TEST(HonestPacking, TheFormattingCodesCharactersArriveAsPlainTextAndAreReported) {
+  struct Case {
+    std::string windows1252;
+    std::string shown;  // UTF-8
+  };
+  const Case cases[] = {
+      {"5 \x80", "5 EUR"},
+      {"\x82quoted'", "'quoted'"},
+      {"\x83(x)", "f(x)"},
+      {"\x84quoted\"", "\"quoted\""},
+      {"wait\x85 then", "wait\xE2\x80\xA6 then"},
+      {"d. 1900\x86", "d. 1900+"},
+      {"note\x87", "note++"},
+      {"x\x88y", "x^y"},
+      {"a\x81z", "a?z"},
+  };
+  for (const Case& c : cases) {
+    // The same from Windows-1252 and from UTF-8; the ellipsis becomes the book's own.
+    const std::string text = "Plain " + c.windows1252 + " plain.";
+    EXPECT_EQ(ReadBack(text), "Plain " + c.shown + " plain.") << c.shown;
+    EXPECT_EQ(ReadBack(Utf8FromWindows1252(text) + "\xC3\xA9"),
+              "Plain " + c.shown + " plain.\xC3\xA9");
+  }
+  ReplacementTally tally;
+  ReadBack("\x80\x80 \x85 \x86", &tally);
+  EXPECT_THAT(ReplacementReport(tally.Kinds()),
+              ElementsAre("1 \xC3\x97 \xE2\x80\xA0 are written as +",
+                          "1 \xC3\x97 \xE2\x80\xA6 are written as ...",
+                          "2 \xC3\x97 \xE2\x82\xAC are written as EUR"));
+}
+
+TEST(HonestPacking, CharactersOutsideWindows1252AreTransliteratedOrShownAsQuestionMarks) {
+  const std::string greek_and_cyrillic = "\xCE\xA9\xCE\xA9\xCE\xA9 \xD0\x96";  // ΩΩΩ Ж
+  ReplacementTally tally;
+  EXPECT_EQ(ReadBack(greek_and_cyrillic, &tally), "??? ?");
+  EXPECT_THAT(ReplacementReport(tally.Kinds()),
+              ElementsAre("3 \xC3\x97 \xCE\xA9 had no place in the book and show as ?",
+                          "1 \xC3\x97 \xD0\x96 had no place in the book and show as ?"));
+  // Letters lose only the accents Windows-1252 lacks; a combining accent joins its letter
+  // where Windows-1252 has the pair; ligatures, dashes and spaces get their plain forms.
+  EXPECT_EQ(ReadBack("\xC5\x81\xC3\xB3"
+                     "d\xC5\xBA, Erd\xC5\x91s, Cafe\xCC\x81, z\xCC\x81"),
+            "L\xC3\xB3"
+            "dz, Erdos, Caf\xC3\xA9, z");
+  EXPECT_EQ(ReadBack("\xEF\xAC\x81nal \xE2\x80\x90 a\xE2\x80\x89"
+                     "b \xE2\x88\x92"
+                     "1"),
+            "final - a b -1");
+}
+
+TEST(HonestPacking, Utf16WithAByteOrderMarkIsRead) {
+  const std::string little = std::string("\xFF\xFE", 2) + std::string("H\0\xE9\0\x16\x04", 6);
+  const std::string big = std::string("\xFE\xFF", 2) + std::string("\0H\0\xE9\x04\x16", 6);
+  EXPECT_EQ(DetectEncoding(little), TextEncoding::kUtf16LittleEndian);
+  EXPECT_EQ(DetectEncoding(big), TextEncoding::kUtf16BigEndian);
+  EXPECT_EQ(ReadBack(little), "H\xC3\xA9?");
+  EXPECT_EQ(ReadBack(big), "H\xC3\xA9?");
+}
+
+class BrnMaking : public ::testing::Test {
+ protected:
+  MakeRequest Request() {
+    test::WriteFile(folder_.File("story.txt"), "Once upon a time.");
+    MakeRequest request;
+    request.text_path = folder_.File("story.txt");
+    request.out_path = folder_.File("story.brn");
+    request.stub_path = folder_.File("no-stub-needed");
+    request.form = MakeForm::kBrn;
+    return request;
+  }
+  test::TempFolder folder_;
+};
+
+TEST_F(BrnMaking, ThePackedBookAloneIsWrittenAndReadsBack) {
+  MakeRequest request = Request();
+  std::vector<int> percents;
+  request.progress = [&](std::string_view, int value, int) { percents.push_back(value); };
+  const MakeResult result = MakeEbook(request);
+  ASSERT_TRUE(result.ok) << result.message;
+  EXPECT_EQ(percents.back(), 100);
+  const BookReadResult book = ReadBookFile(request.out_path, {});
+  EXPECT_EQ(book.text, "Once upon a time.");
+  EXPECT_EQ(book.title, "story.brn");
+  EXPECT_EQ(test::ReadFile(request.out_path).size(), result.stored_size) << "no stub, no markers";
+}
+
+TEST_F(BrnMaking, AKeptPathIsNeverReplaced) {
+  MakeRequest request = Request();
+  test::WriteFile(request.out_path, "the open book");
+  request.kept_paths = {folder_.File("story.brn")};
+  const MakeResult result = MakeEbook(request);
+  EXPECT_FALSE(result.ok);
+  EXPECT_THAT(result.message, ::testing::HasSubstr("in use by the reader"));
+  EXPECT_EQ(test::ReadFile(request.out_path), "the open book");
+}
+
+}  // namespace
+}  // namespace vireo
