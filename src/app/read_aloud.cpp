@@ -57,8 +57,8 @@ void ReadAloud::Start() {
 
 void ReadAloud::SpeakPage(int page) {
   page_ = page;
-  // The page is brought on show first: it is the next page after the spread.
-  while (page_ > spread_.PageOnBox(kRightPageBox) && reading_) {
+  // The page is brought on show first; the current page is the last one on show.
+  while (page_ > context_.reading.current_page && reading_) {
     const int before = context_.reading.current_page;
     spread_.NextPage();
     if (context_.reading.current_page == before) break;

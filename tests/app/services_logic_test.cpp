@@ -143,19 +143,25 @@ TEST(ReadAloud, AShiftClickSpeaksTheMarkedLine) {
       testing::ElementsAre(Utf8FromWindows1252(PlainBookText(lines[2], ItalicMarks::kDropped))));
 }
 
-TEST(ReadAloud, ReadingGoesOnPageAfterPageAndTurnsThem) {
-  FakeReader reader(test::NumberedProse(300), kInstant);
-  reader.Start();
-  ReadAloud& reading = reader.logic.services().read_aloud();
-  reading.Start();
-  test::FakeSpeech& speech = reader.view.services.speech;
-  for (int finished = 0; finished < 3; ++finished) speech.Finish();
-  ASSERT_EQ(speech.said.size(), 4u);
-  for (int page = 1; page <= 4; ++page) EXPECT_EQ(speech.said[page - 1], PageWords(reader, page));
-  EXPECT_EQ(reader.logic.current_page(), 4) << "page 4 is on show while it is read";
-  reading.Stop();
-  speech.Finish();
-  EXPECT_EQ(speech.said.size(), 4u);
+TEST(ReadAloud, ReadingGoesOnPageAfterPageAndTurnsThemInEitherMode) {
+  for (const bool single : {false, true}) {
+    FakeReader reader(test::NumberedProse(300), kInstant);
+    reader.Start();
+    reader.logic.view_commands().SwitchPageMode(single);
+    const int first = reader.logic.spread().PageOnBox(kLeftPageBox);
+    ReadAloud& reading = reader.logic.services().read_aloud();
+    reading.Start();
+    test::FakeSpeech& speech = reader.view.services.speech;
+    for (int finished = 0; finished < 3; ++finished) speech.Finish();
+    ASSERT_EQ(speech.said.size(), 4u);
+    for (int read = 0; read < 4; ++read) {
+      EXPECT_EQ(speech.said[read], PageWords(reader, first + read)) << single;
+    }
+    EXPECT_EQ(reader.logic.current_page(), first + 3) << "the page read is on show";
+    reading.Stop();
+    speech.Finish();
+    EXPECT_EQ(speech.said.size(), 4u);
+  }
 }
 
 // Print jobs: the chosen range, and cancelling between pages.
