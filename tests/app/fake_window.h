@@ -20,8 +20,8 @@
 
 namespace vireo::test {
 
-// The headless window, keeping every progress text (before and after the splash) and counting
-// the context menus it was asked to show.
+// The headless window, keeping every progress text (before and after the splash), counting
+// the menus it was asked to show, with services that keep every request (FakeServices).
 class FakeWindowView : public HeadlessWindowView {
  public:
   void ShowProgress(std::string_view text) override {
