@@ -3,7 +3,7 @@
 # it at the default window size: the whole window, the first spread in
 # two-page and in single-page mode, the title page of a reader without a
 # book, the settings dialog, the about window, the error-report form, the
-# Open dialog and the Create ebook dialog.
+# Create ebook dialog, the Open dialog, the help window and the print preview.
 #   scripts/pictures.sh [OUTPUT_FOLDER]   (default: build/pictures)
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -37,6 +37,12 @@ QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_DIALOG=ebook \
 # The Open dialog (Ctrl+O), in the program's folder.
 QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_DIALOG=open \
   VIREO_SCREENSHOT="$out/open-book.png" "$work/Genesis" >/dev/null
+# The manual's help window (F1) and the print preview of the first two pages.
+cp -r "$bin/manual" "$work/"
+for dialog in help:help-window print-preview:print-preview; do
+  QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_DIALOG="${dialog%%:*}" \
+    VIREO_SCREENSHOT="$out/${dialog#*:}.png" "$work/Genesis" >/dev/null
+done
 rm -f "$work/Vireo.ini" "$work/BookMarks.ini"
 "$work/vireo-tool" render "$work/Genesis" --page 1 -o "$out/first-spread.png"
 "$work/vireo-tool" render "$work/Genesis" --page 1 --single -o "$out/first-page-single.png"

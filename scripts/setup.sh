@@ -9,7 +9,9 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev libfmt-dev
   bible-kjv binutils time
   dpkg-dev file lintian desktop-file-utils appstream
+  qt6-speech-dev qt6-declarative-dev poppler-utils
 )
+# A speech engine is optional: without one, reading aloud says what to install.
 
 missing=()
 for package in "${packages[@]}"; do

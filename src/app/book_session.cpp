@@ -45,13 +45,18 @@ void BookSession::BookLoaded(std::string text, std::string author, std::string t
   title_ = std::move(title);
   SetCaption(title_);
   context_.book.loaded = true;
-  for (const char* item : {"mnuSave", "mnuCopyPage", "mnuPrint"}) {
-    context_.view.SetMenuEnabled(item, true);
+  EnableBookItems(true);
+}
+
+void BookSession::EnableBookItems(bool enabled) {
+  for (const char* item : {"mnuSave", "mnuCopyPage", "mnuPrint", "mnuReadAloud"}) {
+    context_.view.SetMenuEnabled(item, enabled);
   }
 }
 
 void BookSession::CloseBook() {
   context_.book.loaded = false;
+  EnableBookItems(false);
   SetCaption("Vireo");
   spread_.plotter().DrawTitlePage();
   page_label_.clear();

@@ -21,12 +21,13 @@ class BookSession : public ReindexEvents {
   BookSession(ReaderContext& context, BookSpread& spread);
 
   // A book was loaded from path: its text and author are kept, title (the
-  // file name) becomes the caption, the Save, Copy Page and Print menu
-  // items are enabled.
+  // file name) becomes the caption, the items that need a book are enabled.
   void BookLoaded(std::string text, std::string author, std::string title, std::string path);
   // The book is gone (erased): the title page is shown, the caption and the
-  // page label are cleared.
+  // page label are cleared, the items that need a book are disabled.
   void CloseBook();
+  // Export, Copy Page, Print and Read Aloud, which act on the open book.
+  void EnableBookItems(bool enabled);
 
   // The stored position of the open book (0 when none), as the current
   // page: the odd page of the spread that holds it.

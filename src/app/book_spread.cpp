@@ -159,4 +159,10 @@ void BookSpread::LoadPaperTextures() {
   });
 }
 
+int BookSpread::PageOnBox(int box) const {
+  const int current = context_.reading.current_page;
+  if (context_.reading.mode == PageMode::kSingle) return box == kLeftPageBox ? current : 0;
+  return box == kLeftPageBox ? current - 1 : current;
+}
+
 }  // namespace vireo

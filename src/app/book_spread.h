@@ -46,6 +46,9 @@ class BookSpread {
   // The paper textures beside the program into their slots.
   void LoadPaperTextures();
 
+  // The book page on page box `box` (kLeftPageBox or kRightPageBox) in the
+  // current mode; 0 for the right box in single-page mode.
+  int PageOnBox(int box) const;
   PagePlotter& plotter() { return plotter_; }
   const PageTextArea& text_area() const { return plotter_.text_area(); }
   PageCache& cache() { return cache_; }

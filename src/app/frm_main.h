@@ -7,6 +7,7 @@
 #include "app/reader_commands.h"
 #include "app/reader_context.h"
 #include "app/search_commands.h"
+#include "app/service_commands.h"
 #include "app/view_commands.h"
 #include "app/window_preferences.h"
 
@@ -21,6 +22,7 @@ namespace vireo {
 //   commands()    keys, menus, the mouse on the pages, dropped files
 //   preferences_host() the preferences' effects on the window
 //   lifecycle()   start-up and shutdown
+//   services()    print, export, copy page, reading aloud, web pages
 // frmMain owns the shared state and the rooms and wires them together. The
 // window system is reached only through MainWindowView and PageBuffers.
 class frmMain {
@@ -36,6 +38,7 @@ class frmMain {
   ReaderCommands& commands() { return commands_; }
   WindowPreferences& preferences_host() { return preferences_; }
   ProgramLifecycle& lifecycle() { return lifecycle_; }
+  ServiceCommands& services() { return services_; }
 
   // The shared state, for the window and for tests.
   const ReaderContext& context() const { return context_; }
@@ -57,6 +60,7 @@ class frmMain {
   ViewCommands view_commands_;
   WindowPreferences preferences_;
   ProgramLifecycle lifecycle_;
+  ServiceCommands services_;
   ReaderCommands commands_;
 };
 

@@ -4,14 +4,16 @@
 #include <optional>
 #include <string>
 
+#include "app/headless_services.h"
 #include "app/main_window_view.h"
 
 namespace vireo {
 
 // A main window without a window system, for drawing a book off screen (the
 // tool's pictures, benchmarks) and for tests: the window is a size, and
-// captions, labels, ticks and the bar's state are kept as set. Messages and
-// progress go nowhere; the page dialog is cancelled.
+// captions, labels, ticks, enabled items and the bar's state are kept as
+// set. Messages and progress go nowhere; the page dialog is cancelled, and
+// so is every service (HeadlessServices).
 class HeadlessWindowView : public MainWindowView, public PageChooser {
  public:
   void ShowProgress(std::string_view text) override { progress = text; }
@@ -37,10 +39,13 @@ class HeadlessWindowView : public MainWindowView, public PageChooser {
   void SetMenuTick(std::string_view item, bool ticked) override {
     ticks[std::string(item)] = ticked;
   }
-  void SetMenuEnabled(std::string_view, bool) override {}
+  void SetMenuEnabled(std::string_view item, bool enabled) override {
+    enabled_items[std::string(item)] = enabled;
+  }
   void ShowContextMenu() override {}
   void ShowOptionsMenuAtPage() override {}
   PageChooser& PageDialog() override { return *this; }
+  PeripheralServices& Services() override { return services_; }
   std::optional<int> ChoosePage(int, int) override { return chosen_page; }
 
   WindowSize size{kMinimumWindowWidthWithBar,
@@ -53,7 +58,11 @@ class HeadlessWindowView : public MainWindowView, public PageChooser {
   bool bar_visible = true;
   std::map<BarLabel, std::string> labels;
   std::map<std::string, bool> ticks;
+  std::map<std::string, bool> enabled_items;
   std::optional<int> chosen_page;  // what the page dialog answers (nullopt: cancelled)
+
+ private:
+  HeadlessServices services_;
 };
 
 }  // namespace vireo

@@ -79,6 +79,17 @@ std::function<void()> QuitOnSignals(vireo::MainWindow&) {
 }
 #endif
 
+// VIREO_MENU=ITEM[,ITEM...]: each menu item named ("mnuPrint", "mnuSave"
+// ...) is chosen in turn, as a click on it would; then `then` runs.
+void ChooseMenuItems(vireo::MainWindow& window, const std::function<void()>& then) {
+  const char* items = std::getenv("VIREO_MENU");
+  const QStringList names = QString(items != nullptr ? items : "").split(',', Qt::SkipEmptyParts);
+  for (const QString& name : names) {
+    if (QAction* item = window.menu().Item(name)) item->trigger();
+  }
+  then();
+}
+
 int EnvironmentNumber(const char* name) {
   const char* value = std::getenv(name);
   return value == nullptr ? -1 : std::atoi(value);
@@ -103,13 +114,25 @@ void PressKeys(vireo::MainWindow& window, std::string keys, std::function<void()
   });
 }
 
-// VIREO_DIALOG=about|report|ebook: the about window, the error-report form
-// for an example error, or the Create ebook dialog, opened over the window
+// VIREO_DIALOG=about|report|ebook|help|print-preview: the about window, the
+// error-report form for an example error, the Create ebook dialog, the
+// manual, or the print preview of the first pages, opened over the window
 // (the screenshot shows it).
 QWidget* OpenDialog(vireo::MainWindow& window) {
   const char* which = std::getenv("VIREO_DIALOG");
   if (which == nullptr) return nullptr;
   if (std::string_view(which) == "about") return window.help().ShowAbout();
+  if (std::string_view(which) == "help") {
+    window.logic().commands().mnuHelp_Click();
+    return window.services().help_window();
+  }
+  if (std::string_view(which) == "print-preview") {
+    QWidget* preview = window.services().printer().Preview(1, 2);
+    preview->setAttribute(Qt::WA_DeleteOnClose);
+    preview->resize(900, 700);
+    preview->show();
+    return preview;
+  }
   if (std::string_view(which) == "ebook") {
     vireo::frmMakeEbook* dialog =
         vireo::MakeCreateEbookDialog(window.logic(), window.user(), &window).release();
@@ -197,8 +220,9 @@ int main(int argc, char* argv[]) {
   }
   started();
   const char* keys = std::getenv("VIREO_KEYS");
-  PressKeys(window, keys != nullptr ? keys : "",
-            [&window, &user] { ScheduleAutomation(window, *user); });
+  PressKeys(window, keys != nullptr ? keys : "", [&window, &user] {
+    ChooseMenuItems(window, [&window, &user] { ScheduleAutomation(window, *user); });
+  });
   const int status = application.exec();
   vireo::SetErrorObserver(nullptr);
   return window.end_status() >= 0 ? window.end_status() : status;

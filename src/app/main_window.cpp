@@ -9,11 +9,11 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include <QClipboard>
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QShortcut>
 #include <QUrl>
 #include <QWheelEvent>
 
@@ -33,11 +33,6 @@ namespace {
 
 constexpr double kTwipsPerPixel = 15;
 
-uint32_t ToBgr(const QColor& colour) {
-  return static_cast<uint32_t>(colour.red()) | static_cast<uint32_t>(colour.green()) << 8 |
-         static_cast<uint32_t>(colour.blue()) << 16;
-}
-
 int Pixels(double twips) { return static_cast<int>(twips / kTwipsPerPixel + 0.5); }
 
 }  // namespace
@@ -48,6 +43,7 @@ MainWindow::MainWindow(UserInteraction& user, ProgramLocation location)
       bar_(new ControlBarWidget(canvas_)),
       menu_(new OptionsMenu(this)),
       progress_(new QLabel(canvas_)),
+      services_(std::make_unique<QtPeripheralServices>(this, *canvas_, user)),
       logic_(*this, *canvas_, user, pump_, std::move(location)),
       help_(new HelpDialogs(this, logic_)) {
   setObjectName("frmMain");
@@ -65,6 +61,7 @@ MainWindow::MainWindow(UserInteraction& user, ProgramLocation location)
   ConnectCommands();
   ConnectMenu();
   ConnectPlannedItems();
+  ConnectServices();
 }
 
 MainWindow::~MainWindow() = default;
@@ -122,10 +119,6 @@ void MainWindow::ConnectMenu() {
   on("mnuToggleBar", [this] {
     if (!logic_.paginator_busy()) logic_.view_commands().ToggleBar();
   });
-  on("mnuCopyPage",
-     [this] { QApplication::clipboard()->setImage(canvas_->BoxImage(kLeftPageBox)); });
-  on("mnuPayAuthor", [this] { OpenAddress(QString::fromUtf8(kMakerPaymentPage.data())); });
-  on("mnuCheckUpdate", [this] { OpenAddress(QString::fromUtf8(kMakerUpdatePage.data())); });
   on("mnuGutenberg", [this] { OpenAddress("https://www.gutenberg.org"); });
 }
 
@@ -135,10 +128,6 @@ void MainWindow::ConnectPlannedItems() {
   const auto about = [this] { help_->ShowAbout(); };
   connect(bar_->cmdAbout, &QPushButton::clicked, this, about);
   connect(menu_->Item("mnuAbout"), &QAction::triggered, this, about);
-  connect(menu_->Item("mnuPrint"), &QAction::triggered, this,
-          say("Print will print the pages on show. It is not available in this version."));
-  connect(menu_->Item("mnuSave"), &QAction::triggered, this,
-          say("Export will save the book as a text file. It is not available in this version."));
   connect(menu_->Item("mnuEbook"), &QAction::triggered, this,
           [this] { ShowCreateEbook(logic_, user_, this); });
   const auto settings = [this] { ShowPageSetup(logic_, user_, this); };
@@ -151,6 +140,26 @@ void MainWindow::ConnectPlannedItems() {
   const auto language = say("Translations come with a later version; Vireo speaks English.");
   connect(menu_->Item("mnuSetLang0"), &QAction::triggered, this, language);
   connect(menu_->Item("mnuSetLang1"), &QAction::triggered, this, language);
+}
+
+void MainWindow::ConnectServices() {
+  services_->SetLogic(logic_);
+  ServiceCommands& services = logic_.services();
+  ReadAloud& reading = services.read_aloud();
+  const auto on = [this](const char* item, auto&& action) {
+    connect(menu_->Item(item), &QAction::triggered, this, std::forward<decltype(action)>(action));
+  };
+  on("mnuPrint", [&services] { services.mnuPrint_Click(); });
+  on("mnuPrintSetup", [this] { services_->printer().PageSetup(); });
+  on("mnuSave", [&services] { services.mnuSave_Click(); });
+  on("mnuCopyPage", [&services] { services.mnuCopyPage_Click(CopiedPage::kUnderMenu); });
+  on("mnuPayAuthor", [&services] { services.mnuPayAuthor_Click(); });
+  on("mnuCheckUpdate", [&services] { services.mnuCheckUpdate_Click(); });
+  on("mnuReadAloud", [&reading] { reading.reading() ? reading.Stop() : reading.Start(); });
+  on("mnuPauseReading", [&reading] { reading.PauseOrResume(); });
+  auto* copy = new QShortcut(QKeySequence::Copy, this);
+  connect(copy, &QShortcut::activated, this,
+          [&services] { services.mnuCopyPage_Click(CopiedPage::kRightPage); });
 }
 
 void MainWindow::Say(const std::string& text) { user_.ShowMessage(text, "Vireo"); }
@@ -255,8 +264,9 @@ void MainWindow::SetExitCaption(std::string_view caption) {
 
 WindowColours MainWindow::SystemColours() const {
   const QPalette palette = QApplication::palette();
-  return {ToBgr(palette.color(QPalette::Base)), ToBgr(palette.color(QPalette::Text)),
-          ToBgr(palette.color(QPalette::ButtonText))};
+  return {QtSurface::BgrFromColor(palette.color(QPalette::Base)),
+          QtSurface::BgrFromColor(palette.color(QPalette::Text)),
+          QtSurface::BgrFromColor(palette.color(QPalette::ButtonText))};
 }
 
 WindowSize MainWindow::ScreenSize() const {
@@ -315,7 +325,6 @@ void MainWindow::SetBarLabel(BarLabel label, std::string_view text, uint32_t col
   palette.setColor(QPalette::WindowText, QtSurface::ColorFromBgr(colour));
   control->setPalette(palette);
 }
-
 
 // VIREO_TIMING=1: each milestone is written to standard error with the wall
 // clock in milliseconds since the epoch, so that a script that noted when it

@@ -11,6 +11,7 @@
 #include "app/help_dialogs_qt.h"
 #include "app/interaction_qt.h"
 #include "app/options_menu_qt.h"
+#include "app/peripheral_services_qt.h"
 #include "app/splash_window.h"
 
 namespace vireo {
@@ -30,6 +31,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   ControlBarWidget& bar() { return *bar_; }
   OptionsMenu& menu() { return *menu_; }
   HelpDialogs& help() { return *help_; }
+  QtPeripheralServices& services() { return *services_; }
   UserInteraction& user() { return user_; }
   SplashWindow* splash() const { return splash_.get(); }
   const QString& exit_caption() const { return exit_caption_; }
@@ -60,6 +62,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   void ShowContextMenu() override;
   void ShowOptionsMenuAtPage() override;
   PageChooser& PageDialog() override;
+  PeripheralServices& Services() override { return *services_; }
   void Milestone(std::string_view what) override;
 
  protected:
@@ -74,6 +77,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   void ConnectCommands();
   void ConnectMenu();
   void ConnectPlannedItems();
+  void ConnectServices();
   void OpenAddress(const QString& address);
   // Open...: the file dialog, then the chosen file offered to the reader.
   void OpenBookFile();
@@ -101,6 +105,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   ControlBarWidget* bar_;
   OptionsMenu* menu_;
   QLabel* progress_;  // the loading status once the splash is gone
+  std::unique_ptr<QtPeripheralServices> services_;
   frmMain logic_;
   HelpDialogs* help_;
   std::unique_ptr<SplashWindow> splash_;

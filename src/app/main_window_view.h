@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "app/peripheral_services.h"
 #include "app/progress_display.h"
 #include "nav/page_navigation.h"
 #include "prefs/reader_preferences.h"
@@ -72,6 +73,8 @@ class MainWindowView : public ProgressDisplay {
   virtual void ShowOptionsMenuAtPage() = 0;
   // The page dialog (frmPageNav) that Goto Page shows.
   virtual PageChooser& PageDialog() = 0;
+  // The manual, printer, clipboard, browser, common dialogs and speech.
+  virtual PeripheralServices& Services() = 0;
 
   // A point in the program's progress ("first spread", "pagination
   // finished"), for timing; the window may report it.

@@ -12,6 +12,7 @@ OptionsMenu::OptionsMenu(QWidget* parent) : QMenu("Options", parent) {
       ->setShortcut(QKeySequence::Open);
   Add(file, "mnuLoad", "Load");
   Add(file, "mnuPrint", "Print");
+  Add(file, "mnuPrintSetup", "Print Setup");
   Add(file, "mnuSave", "Export");
   Add(file, "mnuEbook", "Create ebook");
   file->addSeparator();
@@ -26,6 +27,8 @@ OptionsMenu::OptionsMenu(QWidget* parent) : QMenu("Options", parent) {
   Add(this, "mnuGoto", "Goto Page...");
   addSeparator();
   Add(this, "mnuCopyPage", "Copy selected page to clipboard");
+  Add(this, "mnuReadAloud", "Read Aloud", true);
+  Add(this, "mnuPauseReading", "Pause Reading", true);
   addSeparator();
   QMenu* format = AddSubmenu("mnuFormat", "Formatting");
   Add(format, "mnuFormatting", "Format Paragraphs (Reloads file)", true);

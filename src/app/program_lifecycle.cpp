@@ -73,7 +73,10 @@ void ProgramLifecycle::RunStartupSteps() {
     LogAction("Resetting cache");
     spread_.cache().ResetCache();
   });
-  StartupStep([&] { LogAction("Setting up"); });
+  StartupStep([&] {
+    LogAction("Setting up");
+    session_.EnableBookItems(false);  // the print menu and its kin wait for a book
+  });
   StartupStep([&] {
     LogAction("Startup", LogFile::kNew);
     context_.system_colours = view.SystemColours();

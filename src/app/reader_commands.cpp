@@ -22,13 +22,6 @@ constexpr std::string_view kModule = "frmMain";
 constexpr std::string_view kDroppableTypes[] = {".TXT", ".BRN", ".BFL", ".RTF",
                                                 ".TEX", ".VRH", ".VRT", ".HTM"};
 
-constexpr std::string_view kHelpText =
-    "Vireo keys: Space, Right, PageDown or M next page; Shift+Space, Left, PageUp or Z "
-    "previous page; the mouse wheel turns a page per notch; Home first page; End last page; "
-    "1 one page; 2 two pages; G go to page; B control bar; S search; N next match; "
-    "P previous match; Ctrl+O open a book; Q quit. Right-click a page, or press F10 or the "
-    "Menu key, for the menu.";
-
 bool HasDroppableName(const std::string& path) {
   const std::string name = UpperCase(path);
   return std::any_of(std::begin(kDroppableTypes), std::end(kDroppableTypes),
@@ -40,7 +33,7 @@ bool HasDroppableName(const std::string& path) {
 ReaderCommands::ReaderCommands(ReaderContext& context, BookSpread& spread, BookSession& session,
                                BookLoader& loader, SearchCommands& search,
                                ViewCommands& view_commands, WindowPreferences& preferences,
-                               ProgramLifecycle& lifecycle)
+                               ProgramLifecycle& lifecycle, ReadAloud& read_aloud)
     : context_(context),
       spread_(spread),
       session_(session),
@@ -48,7 +41,8 @@ ReaderCommands::ReaderCommands(ReaderContext& context, BookSpread& spread, BookS
       search_(search),
       view_commands_(view_commands),
       preferences_(preferences),
-      lifecycle_(lifecycle) {}
+      lifecycle_(lifecycle),
+      read_aloud_(read_aloud) {}
 
 bool ReaderCommands::Form_KeyUp(int virtual_key, ShiftKey shift) {
   Trap("sub form_keyup", kModule, [&] {
@@ -83,6 +77,7 @@ bool ReaderCommands::Form_KeyUp(int virtual_key, ShiftKey shift) {
       case KeyCommand::kLastSpread:
         return ShowEnd(true);
       case KeyCommand::kOptionsMenu:
+        context_.menu_page_box = -1;  // opened on no page: Copy Page takes the right one
         return context_.view.ShowOptionsMenuAtPage();
       case KeyCommand::kNone:
         return;
@@ -103,13 +98,14 @@ void ReaderCommands::Page_Mouse(const PageMouseEvent& event) {
     case PageMouseAction::kTurnBack:
       return spread_.PreviousPage();
     case PageMouseAction::kContextMenu:
+      context_.menu_page_box = event.page_box;
       return context_.view.ShowContextMenu();
     case PageMouseAction::kMarkLine:
     case PageMouseAction::kMoveMark:
       return SetMarker(event.page_box, decision.line, decision.band_top, decision.band_bottom);
     case PageMouseAction::kSpeakLine:
-      // FIXME: the marked line goes to text-to-speech once speech lands.
-      return SetMarker(-1, 0, 0, 0);
+      SetMarker(-1, 0, 0, 0);
+      return read_aloud_.SpeakLine(event.page_box, decision.line);
     case PageMouseAction::kNone:
       return;
   }
@@ -238,7 +234,7 @@ void ReaderCommands::mnuEraseBookmarks_Click() {
 }
 
 void ReaderCommands::mnuHelp_Click() {
-  Trap("sub mnuhelp_click", kModule, [&] { context_.user.ShowMessage(kHelpText, "Vireo"); });
+  Trap("sub mnuhelp_click", kModule, [&] { context_.view.Services().ShowManual(); });
 }
 
 }  // namespace vireo

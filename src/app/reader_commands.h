@@ -8,6 +8,7 @@
 #include "app/key_map.h"
 #include "app/program_lifecycle.h"
 #include "app/reader_context.h"
+#include "app/read_aloud.h"
 #include "app/search_commands.h"
 #include "app/view_commands.h"
 #include "app/window_preferences.h"
@@ -22,7 +23,8 @@ class ReaderCommands {
  public:
   ReaderCommands(ReaderContext& context, BookSpread& spread, BookSession& session,
                  BookLoader& loader, SearchCommands& search, ViewCommands& view_commands,
-                 WindowPreferences& preferences, ProgramLifecycle& lifecycle);
+                 WindowPreferences& preferences, ProgramLifecycle& lifecycle,
+                 ReadAloud& read_aloud);
 
   // A released key (the key map); always consumed. Dropped while the book
   // is paginated.
@@ -49,6 +51,7 @@ class ReaderCommands {
   // Asks, then erases the open book's file and shows the title page.
   void mnuErasefile_Click();
   void mnuEraseBookmarks_Click();
+  // The manual in the help window.
   void mnuHelp_Click();
 
   // The line under the marker (0: none).
@@ -71,6 +74,7 @@ class ReaderCommands {
   ViewCommands& view_commands_;
   WindowPreferences& preferences_;
   ProgramLifecycle& lifecycle_;
+  ReadAloud& read_aloud_;
   int marked_line_ = 0;
 };
 

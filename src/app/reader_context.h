@@ -44,6 +44,7 @@ struct ReaderContext {
   bool resizing = false;    // the program sets the window's size itself
   bool reindexing = false;  // from the start of a pagination to its first spread
   bool reformat = true;     // "Reformat": the book's paragraphs are reformatted on loading
+  int menu_page_box = -1;   // the page box the context menu was last opened on
 };
 
 }  // namespace vireo

@@ -61,6 +61,11 @@ void PagePlotter::ComposePage(PageSide side, int box, int page) {
   SetTexture(box);
   surface.SetFontSize(prefs_.font_size);
   SetPageBorders();
+  composer_.DisplayPage(SettingsFor(side, page, PageTarget::kScreen), surface, metrics_);
+  DrawPageNumber(surface, page);
+}
+
+PageSettings PagePlotter::SettingsFor(PageSide side, int page, PageTarget target) const {
   const PageContent content = book_.Page(page);
   PageSettings settings;
   settings.page_side = static_cast<int>(side);
@@ -78,16 +83,38 @@ void PagePlotter::ComposePage(PageSide side, int box, int page) {
   settings.line_step = area_.line_gap;
   settings.search_term = search_term_;
   settings.highlight_colour = prefs_.highlight_colour;
-  settings.target = PageTarget::kScreen;
-  composer_.DisplayPage(settings, surface, metrics_);
-  DrawPageNumber(box, page);
+  settings.target = target;
+  return settings;
+}
+
+std::vector<std::string> PagePlotter::PageLines(int page) {
+  EnsureFontTables();
+  std::vector<std::string> lines;
+  Trap("sub pagelines", kModule, [&] {
+    if (page < 1 || page > book_.PageCount()) return;
+    composer_.ComposeLines(SettingsFor(PageSide::kLeft, page, PageTarget::kScreen), metrics_);
+    lines = composer_.lines();
+  });
+  return lines;
+}
+
+void PagePlotter::PrintOnPage(int page, Surface& printer) {
+  EnsureFontTables();
+  Trap("sub printonpage", kModule, [&] {
+    if (page < 1 || page > book_.PageCount()) return;
+    const PageSettings settings = SettingsFor(PageSide::kLeft, page, PageTarget::kPrinter);
+    composer_.ComposeLines(settings, metrics_);
+    printer.SetFontSize(prefs_.font_size);
+    printer.SetForeColor(prefs_.ink_colour);
+    composer_.PrintPage(settings, printer);
+    DrawPageNumber(printer, page);
+  });
 }
 
 // The number goes centred at the page's foot, 8 points, in the ink colour
 // (not "PNColour", which is kept for the settings only), in plain style
 // whatever the page's text left open.
-void PagePlotter::DrawPageNumber(int box, int page) {
-  Surface& surface = buffers_.Box(box);
+void PagePlotter::DrawPageNumber(Surface& surface, int page) {
   const std::string number = std::to_string(page);
   surface.SetFontBold(false);
   surface.SetFontItalic(false);

@@ -1,15 +1,18 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "render/book_display.h"
 #include "render/book_view.h"
+#include "render/page_settings.h"
 
 namespace vireo {
 
 class PageBuffers;
 class clsPrintPage;
 class clsFontMetrics;
+class Surface;
 struct BookPages;
 struct ReaderPreferences;
 
@@ -47,6 +50,14 @@ class PagePlotter : public BookDisplay {
   void HideCover() override {}
   bool BookLoaded() const override;
 
+  // The lines of page `page` as it is laid out on screen (a line that ends
+  // a paragraph ends with a line feed; style codes kept); empty for a page
+  // the book does not have.
+  std::vector<std::string> PageLines(int page);
+  // Draws page `page` onto the printer surface with the lines it has on
+  // screen and its number at the foot; the printer's own widths place the
+  // glyphs and nothing is highlighted.
+  void PrintOnPage(int page, Surface& printer);
   // Every box gets the paper colour as back colour, the ink colour as fore
   // colour, then its texture.
   void SetPageColours();
@@ -55,7 +66,8 @@ class PagePlotter : public BookDisplay {
 
  private:
   void ComposePage(PageSide side, int box, int page);
-  void DrawPageNumber(int box, int page);
+  PageSettings SettingsFor(PageSide side, int page, PageTarget target) const;
+  void DrawPageNumber(Surface& surface, int page);
 
   PageBuffers& buffers_;
   const BookPages& book_;

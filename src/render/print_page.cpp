@@ -24,14 +24,18 @@ void clsPrintPage::ComposeAndDraw(std::string_view procedure, const PageSettings
     printing_ = false;
     pump_.Yield();
     SetupFormatting(settings);
-    lines_.clear();
-    // The line array holds lines per page + 10 lines.
-    line_capacity_ = static_cast<size_t>(std::max(0, settings.lines_per_page + 10));
-    lines_.reserve(line_capacity_);
-    StoreSentences(settings, metrics);
+    ComposeLines(settings, metrics);
     surface.SetCurrentY(settings.top);
     PrintSentences(settings);
   });
+}
+
+void clsPrintPage::ComposeLines(const PageSettings& settings, const clsFontMetrics& metrics) {
+  lines_.clear();
+  // The line array holds lines per page + 10 lines.
+  line_capacity_ = static_cast<size_t>(std::max(0, settings.lines_per_page + 10));
+  lines_.reserve(line_capacity_);
+  StoreSentences(settings, metrics);
 }
 
 void clsPrintPage::DisplayPage(const PageSettings& settings, Surface& surface,

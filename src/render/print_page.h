@@ -54,14 +54,14 @@ class clsPrintPage {
   // positioning glyphs by the widths in metrics. surface and metrics must
   // stay alive until the next page is composed (PrintSentences reads them).
   void DisplayPage(const PageSettings& settings, Surface& surface, const clsFontMetrics& metrics);
+  // Lays settings.page_text out into a fresh lines() without drawing it.
+  void ComposeLines(const PageSettings& settings, const clsFontMetrics& metrics);
   // DisplayPage for callers other than the page boxes on show.
   void OutputPage(const PageSettings& settings, Surface& surface, const clsFontMetrics& metrics);
   // Draws the lines composed last onto the printer surface, without laying
   // the page out again; glyphs are placed by the printer's own widths and no
   // search term is highlighted.
   void PrintPage(const PageSettings& settings, Surface& printer);
-  // FIXME: PrintPictureBox (a drawn page box sent to the printer) comes with
-  // printing.
 
   // The target's bold, italic and underline from the page flags; copies the
   // justify and indent flags and the search term.

@@ -47,6 +47,11 @@ QtSurface::QtSurface(QImage* image) : image_(image), font_(BookFont()) {
 
 QtSurface::~QtSurface() = default;
 
+uint32_t QtSurface::BgrFromColor(const QColor& colour) {
+  return static_cast<uint32_t>(colour.red()) | static_cast<uint32_t>(colour.green()) << 8 |
+         static_cast<uint32_t>(colour.blue()) << 16;
+}
+
 QColor QtSurface::ColorFromBgr(uint32_t bgr) {
   return QColor(static_cast<int>(bgr & 0xFF), static_cast<int>((bgr >> 8) & 0xFF),
                 static_cast<int>((bgr >> 16) & 0xFF));

@@ -89,6 +89,8 @@ class QtSurface : public Surface {
 
   // 0x00BBGGRR as a Qt colour.
   static QColor ColorFromBgr(uint32_t bgr);
+  // A Qt colour as 0x00BBGGRR.
+  static uint32_t BgrFromColor(const QColor& colour);
 
  private:
   struct GlyphTable {

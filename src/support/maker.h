@@ -8,9 +8,6 @@ namespace vireo {
 inline constexpr std::string_view kMakerName = "Marrowind Software";
 inline constexpr std::string_view kMakerHomePage = "https://vireo-reader.example.org";
 inline constexpr std::string_view kMakerCountry = "New Zealand";
-// Where readers pay an author, and where a newer version is announced.
-inline constexpr std::string_view kMakerPaymentPage = "https://vireo-reader.example.org/pay";
-inline constexpr std::string_view kMakerUpdatePage = "https://vireo-reader.example.org/update";
 // Where error reports are mailed.
 inline constexpr std::string_view kMakerBugAddress = "bugs@vireo-reader.example.org";
 // The terms the reader is given under, as the about window states them.

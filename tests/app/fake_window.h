@@ -11,6 +11,7 @@
 #include "app/frm_main.h"
 #include "app/headless_window.h"
 #include "book/book_maker.h"
+#include "app/fake_services.h"
 #include "fake_pump.h"
 #include "prefs/settings_get_set.h"
 #include "render/fake_page_buffers.h"
@@ -19,19 +20,21 @@
 
 namespace vireo::test {
 
-// The headless window, keeping every progress text (before and after the splash) and counting
-// the context menus it was asked to show.
+// The headless window, keeping every progress text (before and after the splash), counting
+// the menus it was asked to show, with services that keep every request (FakeServices).
 class FakeWindowView : public HeadlessWindowView {
  public:
   void ShowProgress(std::string_view text) override {
     (splash ? splash_status : progress_shown).emplace_back(text);
   }
   void ShowContextMenu() override { ++context_menus; }
+  PeripheralServices& Services() override { return services; }
   void ShowOptionsMenuAtPage() override { ++menus_at_page; }
 
   std::vector<std::string> splash_status;
   std::vector<std::string> progress_shown;  // after the splash
   int context_menus = 0;
+  FakeServices services;
   int menus_at_page = 0;
 };
 

@@ -1,0 +1,67 @@
+// The manual shipped beside the program: every link of every page leads to a page and, where
+// it names one, to an anchor of that page; the contents list follows the contents page.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <regex>
+
+#include "app/help_manual.h"
+#include "test_support.h"
+
+namespace vireo {
+namespace {
+
+const std::filesystem::path kManual = std::filesystem::path(VIREO_SOURCE_DIR) / "data" / "manual";
+
+// The ids a page offers as anchors.
+std::set<std::string> Anchors(const std::string& html) {
+  std::set<std::string> ids;
+  const std::regex id(R"re(id="([^"]+)")re");
+  for (auto it = std::sregex_iterator(html.begin(), html.end(), id); it != std::sregex_iterator();
+       ++it) {
+    ids.insert((*it)[1]);
+  }
+  return ids;
+}
+
+TEST(Manual, EveryLinkOfEveryPageResolves) {
+  const std::regex link(R"re((href|src)="([^"]+)")re");
+  int links = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(kManual)) {
+    if (entry.path().extension() != ".html") continue;
+    const std::string html = test::ReadFile(entry.path().string());
+    for (auto it = std::sregex_iterator(html.begin(), html.end(), link);
+         it != std::sregex_iterator(); ++it) {
+      const std::string target = (*it)[2];
+      if (target.find("://") != std::string::npos) continue;
+      const size_t hash = target.find('#');
+      const std::string file = target.substr(0, hash);
+      const std::filesystem::path page = file.empty() ? entry.path() : kManual / file;
+      ++links;
+      ASSERT_TRUE(std::filesystem::exists(page)) << entry.path().filename() << ": " << target;
+      if (hash != std::string::npos) {
+        EXPECT_TRUE(Anchors(test::ReadFile(page.string())).count(target.substr(hash + 1)))
+            << entry.path().filename() << ": " << target;
+      }
+    }
+  }
+  EXPECT_GT(links, 30);
+}
+
+TEST(Manual, TheContentsListFollowsTheContentsPage) {
+  const auto entries = ManualContents(
+      R"(<ul><li><a href="reading.html">Reading <b>a</b> book</a>: turning</li>
+         <li><a href="https://example.org">out</a></li><li><a href="keys.html#f1">Keys</a></li>)");
+  ASSERT_EQ(entries.size(), 2u);
+  EXPECT_EQ(entries[0].target, "reading.html");
+  EXPECT_EQ(entries[0].title, "Reading a book");
+  EXPECT_EQ(entries[1].target, "keys.html#f1");
+  const auto shipped =
+      ManualContents(test::ReadFile((kManual / std::string(kManualContentsPage)).string()));
+  EXPECT_GE(shipped.size(), 10u);
+}
+
+}  // namespace
+}  // namespace vireo
