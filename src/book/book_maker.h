@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -57,6 +58,10 @@ struct MakeRequest {
   std::string stub_path;
   std::string author;  // as typed (UTF-8 or Windows-1252)
   std::string title;
+  // Adds a section of the maker's own after the packed book (given the
+  // whole file so far and the packable text); none when not set, and the
+  // ebook then ends with the book. May throw RuntimeError.
+  std::function<void(std::string& file, std::string_view text)> after_book = nullptr;
 };
 
 struct MakeResult {

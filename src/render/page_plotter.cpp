@@ -2,11 +2,12 @@
 
 #include <string>
 
+#include "book/cls_new_images.h"
 #include "layout/font_metrics.h"
 #include "prefs/reader_preferences.h"
 #include "render/book_pages.h"
 #include "render/page_buffers.h"
-#include "render/print_page.h"
+#include "render/page_pictures.h"
 #include "render/surface.h"
 #include "render/title_page.h"
 #include "support/error_trap.h"
@@ -47,6 +48,7 @@ void PagePlotter::PlotOnPage(PageSide side, int box, int page) {
       return;
     }
     if (page < 1 || page > book_.PageCount()) return;
+    if (box == kLeftPageBox) page == 1 ? ShowCover() : HideCover();
     ComposePage(side, box, page);
   });
   if (title_page) {
@@ -79,8 +81,36 @@ void PagePlotter::ComposePage(PageSide side, int box, int page) {
   settings.search_term = search_term_;
   settings.highlight_colour = prefs_.highlight_colour;
   settings.target = PageTarget::kScreen;
+  composing_box_ = box;
   composer_.DisplayPage(settings, surface, metrics_);
   DrawPageNumber(box, page);
+}
+
+void PagePlotter::AddImage(int, int image_number, double left, int line_index) {
+  Trap("sub addimage", kModule, [&] {
+    if (images_ == nullptr) return;
+    const Picture* picture = images_->Image(image_number);
+    if (picture == nullptr || picture->empty()) return;
+    const TwipsSize size = PictureSizeOnPage(*picture, area_);
+    const double top = area_.top_border + line_index * area_.line_pitch;
+    buffers_.Box(composing_box_).PaintPicture(*picture, left + images_->ImageLeft(), top,
+                                              size.width, size.height);
+  });
+}
+
+void PagePlotter::SetCover(const Picture* cover) {
+  cover_ = cover != nullptr && !cover->empty() ? cover : nullptr;
+  buffers_.ShowCoverPicture(cover_shown_ ? cover_ : nullptr);
+}
+
+void PagePlotter::ShowCover() {
+  cover_shown_ = true;
+  buffers_.ShowCoverPicture(cover_);
+}
+
+void PagePlotter::HideCover() {
+  cover_shown_ = false;
+  buffers_.ShowCoverPicture(nullptr);
 }
 
 // The number goes centred at the page's foot, 8 points, in the ink colour

@@ -4,11 +4,13 @@
 
 #include "render/book_display.h"
 #include "render/book_view.h"
+#include "render/print_page.h"
 
 namespace vireo {
 
 class PageBuffers;
-class clsPrintPage;
+class clsNewImages;
+struct Picture;
 class clsFontMetrics;
 struct BookPages;
 struct ReaderPreferences;
@@ -16,9 +18,11 @@ struct ReaderPreferences;
 // Draws into the page buffers: paper, page text, page numbers and the title
 // page, each box shown once drawn. Reads the open book through `book`, the
 // live preferences and the current font metrics, which it measures again
-// when the font has changed; all must outlive it. Errors are logged under
-// module "frmMain" with each procedure's own name.
-class PagePlotter : public BookDisplay {
+// when the font has changed; all must outlive it. It draws the pictures the
+// composer places into the page picture itself, so that the cache, the sweep
+// and printing carry them like the text. Errors are logged under module
+// "frmMain" with each procedure's own name.
+class PagePlotter : public BookDisplay, public PrintPageObserver {
  public:
   PagePlotter(PageBuffers& buffers, const BookPages& book, const ReaderPreferences& prefs,
               clsPrintPage& composer, clsFontMetrics& metrics);
@@ -42,10 +46,19 @@ class PagePlotter : public BookDisplay {
   void PlotOnPage(PageSide side, int box, int page) override;
   void ClearPage(int box) override;
   void DrawTitlePage() override;
-  // FIXME: the book's cover picture is shown and hidden here once covers land.
-  void ShowCover() override {}
-  void HideCover() override {}
+  // The cover goes over Page(0) while it shows page 1.
+  void ShowCover() override;
+  void HideCover() override;
   bool BookLoaded() const override;
+
+  // The pictures of the open book (not owned; nullptr for none) and its
+  // cover (not owned; nullptr for none; shown at once where it belongs).
+  void SetPictures(const clsNewImages* images) { images_ = images; }
+  void SetCover(const Picture* cover);
+
+  // PrintPageObserver: picture image_number goes on the page being composed,
+  // at the store's ImageLeft from left, on line line_index.
+  void AddImage(int page_side, int image_number, double left, int line_index) override;
 
   // Every box gets the paper colour as back colour, the ink colour as fore
   // colour, then its texture.
@@ -65,6 +78,10 @@ class PagePlotter : public BookDisplay {
   PageTextArea area_;
   std::string search_term_;
   bool font_tables_stale_ = true;
+  const clsNewImages* images_ = nullptr;
+  const Picture* cover_ = nullptr;
+  bool cover_shown_ = false;
+  int composing_box_ = kLeftPageBox;
 };
 
 }  // namespace vireo
