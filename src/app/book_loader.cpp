@@ -56,6 +56,10 @@ void BookLoader::LoadCover(const std::string& packed_cover, const std::string& p
   Trap("sub loadcover", kModule, [&] {
     LogAction("Loading cover image");
     context_.view.ShowProgress(GetTranslation("Loading cover image"));
+    struct ProgressCleared {
+      MainWindowView& view;
+      ~ProgressCleared() { view.ShowProgress(""); }
+    } cleared{context_.view};
     spread_.plotter().SetCover(nullptr);
     context_.cover = Picture{};
     const std::optional<std::string> bytes =
