@@ -52,8 +52,7 @@ class FakeSurface : public Surface {
     SetCurrentX(CurrentX() + TextWidth(text));
   }
   // A picture is recorded as a run "picture WxH" (in twips) at its corner.
-  void PaintPicture(const Picture& picture, double left, double top, double w,
-                    double h) override {
+  void PaintPicture(const Picture& picture, double left, double top, double w, double h) override {
     if (picture.empty()) return;
     runs.push_back({"picture " + std::to_string(static_cast<int>(w)) + "x" +
                         std::to_string(static_cast<int>(h)),

@@ -40,11 +40,11 @@ struct ReaderContext {
 
   ReaderPreferences prefs;
   ReadingState reading;
-  BookPages book;      // the open book's text and page index
-  clsReindex reindex;  // the paginator, with the font tables it measures by
-  clsNewImages images;               // the pictures of the open book
-  DiskPictureFiles picture_files;    // where books' pictures are looked for on disk
-  Picture cover;                     // the open book's cover (empty: none)
+  BookPages book;                  // the open book's text and page index
+  clsReindex reindex;              // the paginator, with the font tables it measures by
+  clsNewImages images;             // the pictures of the open book
+  DiskPictureFiles picture_files;  // where books' pictures are looked for on disk
+  Picture cover;                   // the open book's cover (empty: none)
   WindowColours system_colours;
 
   // The busy flags commands respect: a command that arrives while one is

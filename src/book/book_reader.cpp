@@ -9,8 +9,8 @@
 
 #include "book/cls_new_images.h"
 #include "book/html_references.h"
-#include "book/picture_section.h"
 #include "book/load_file.h"
+#include "book/picture_section.h"
 #include "support/error_trap.h"
 #include "support/file_io.h"
 #include "support/logging.h"

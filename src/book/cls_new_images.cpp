@@ -59,7 +59,8 @@ std::string clsNewImages::ExtractFileName(std::string_view reference) {
   std::string name;
   Trap("function extractfilename", kModule, [&] {
     const size_t src = reference.find("SRC");
-    const std::string_view after = src == std::string_view::npos ? reference : reference.substr(src + 3);
+    const std::string_view after =
+        src == std::string_view::npos ? reference : reference.substr(src + 3);
     char quote = '"';
     size_t open = after.find(quote);
     if (open == std::string_view::npos) {

@@ -93,8 +93,8 @@ void PagePlotter::AddImage(int, int image_number, double left, int line_index) {
     if (picture == nullptr || picture->empty()) return;
     const TwipsSize size = PictureSizeOnPage(*picture, area_);
     const double top = area_.top_border + line_index * area_.line_pitch;
-    buffers_.Box(composing_box_).PaintPicture(*picture, left + images_->ImageLeft(), top,
-                                              size.width, size.height);
+    buffers_.Box(composing_box_)
+        .PaintPicture(*picture, left + images_->ImageLeft(), top, size.width, size.height);
   });
 }
 

@@ -17,7 +17,8 @@ std::string SizeText(const QSize& size) {
 }  // namespace
 
 Picture QtPictureDecoder::Decode(std::string_view bytes, std::string& why) const {
-  const QByteArray data = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
+  const QByteArray data =
+      QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
   QBuffer buffer;
   buffer.setData(data);
   buffer.open(QIODevice::ReadOnly);

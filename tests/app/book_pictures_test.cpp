@@ -64,9 +64,8 @@ TEST(BookPictures, PicturesAreDrawnCentredIntoThePagePicture) {
   reader.Start();
   const PageTextArea area = reader.logic.spread().text_area();
   const auto& runs = reader.buffers.boxes[kLeftPageBox].runs;
-  const auto picture = std::find_if(runs.begin(), runs.end(), [](const auto& run) {
-    return run.text == "picture 300x450";
-  });
+  const auto picture = std::find_if(runs.begin(), runs.end(),
+                                    [](const auto& run) { return run.text == "picture 300x450"; });
   ASSERT_NE(picture, runs.end()) << reader.buffers.Text(kLeftPageBox);
   EXPECT_DOUBLE_EQ(picture->x, area.left_border + (area.text_width - 300) / 2);
   EXPECT_THAT(reader.buffers.Text(kLeftPageBox), Not(HasSubstr("IMG")));

@@ -16,11 +16,20 @@ const std::map<std::string, std::string> kFiles = {
     {"/book/FAKE.PNG", "not a picture"},
 };
 
-std::string Rewritten(std::string text, bool packed = true) {
-  FakePictureFiles files(kFiles);
+// The store over kFiles, decoding with the fake decoder.
+struct Store {
+  Store() {
+    images.SetFiles(&files);
+    images.SetDecoder(&decoder);
+  }
+  FakePictureFiles files{kFiles};
+  FakePictureDecoder decoder;
   clsNewImages images;
-  images.SetFiles(&files);
-  images.LoadAllImages("/book/", text, packed);
+};
+
+std::string Rewritten(std::string text, bool packed = true) {
+  Store store;
+  store.images.LoadAllImages("/book/", text, packed);
   return text;
 }
 
@@ -69,11 +78,8 @@ TEST(ImageStoreRewriting, ExtractsTheQuotedNameAfterSrc) {
 }
 
 TEST(ImageStore, NumbersFollowThePlaceholdersAndBadFilesKeepTheirs) {
-  FakePictureFiles files(kFiles);
-  FakePictureDecoder decoder;
-  clsNewImages images;
-  images.SetFiles(&files);
-  images.SetDecoder(&decoder);
+  Store store;
+  clsNewImages& images = store.images;
   std::string text = "[IMG SRC='fake.png']" + F + "[IMG SRC='gone.png']" + F +
                      "[IMG SRC='pics/b.png']" + F + "[IMG SRC='a.png']";
   images.LoadAllImages("/book/", text, true);
@@ -88,25 +94,20 @@ TEST(ImageStore, NumbersFollowThePlaceholdersAndBadFilesKeepTheirs) {
 }
 
 TEST(ImageStore, AFileGoneBeforeLoadingIsSkipped) {
-  FakePictureFiles files(kFiles);
-  clsNewImages images;
-  images.SetFiles(&files);
-  files.Remove("C.PNG");
-  images.LoadImagesFromList({"/book/A.PNG", "C.PNG", "/book/PICS\\B.PNG"});
-  EXPECT_EQ(images.ImageCount(), 2);
+  Store store;
+  store.files.Remove("C.PNG");
+  store.images.LoadImagesFromList({"/book/A.PNG", "C.PNG", "/book/PICS\\B.PNG"});
+  EXPECT_EQ(store.images.ImageCount(), 2);
 }
 
 TEST(ImageStore, TenThousandReferencesToOnePictureDecodeItOnce) {
-  FakePictureFiles files(kFiles);
-  FakePictureDecoder decoder;
-  clsNewImages images;
-  images.SetFiles(&files);
-  images.SetDecoder(&decoder);
+  Store store;
+  clsNewImages& images = store.images;
   std::string text;
   for (int i = 0; i < 10000; ++i) text += "[IMG SRC='a.png']0123456789";
   images.LoadAllImages("/book/", text, true);
   EXPECT_EQ(images.ImageCount(), 10000);
-  EXPECT_EQ(files.reads, 1);
+  EXPECT_EQ(store.files.reads, 1);
   EXPECT_EQ(images.Image(9999), images.Image(0));
   EXPECT_TRUE(text.ends_with("[IMG=9999]0123456789"));
 }

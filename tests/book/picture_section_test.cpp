@@ -39,9 +39,9 @@ TEST(PictureSection, DamagedSectionsNeverReadPastTheFile) {
   const size_t trailer = whole.size() - 24;
   struct Case {
     const char* what;
-    size_t at;           // byte changed
+    size_t at;  // byte changed
     char value;
-    size_t pictures;     // read before the damage
+    size_t pictures;  // read before the damage
   };
   const Case cases[] = {
       {"pictures part longer than the file", trailer + 15, '\x7F', 0},

@@ -72,11 +72,11 @@ TEST(BookPictures, PackedPicturesAndCoverShowWithoutFilesBesideTheBook) {
     text += "[IMG SRC=\"PICS/dot.BMP\"]\r\n\r\n";
   }
   test::WriteFile(maker.File("book.txt"), text);
-  const auto made = test::Run(program.Path("vireo-tool") + " make " + maker.File("book.txt") +
-                                  " -o " + program.Path("Book") + " --stub " +
-                                  program.Path("Vireo") + " --images " + maker.str() +
-                                  " --cover " + maker.File("cover.bmp"),
-                              {}, maker);
+  const auto made =
+      test::Run(program.Path("vireo-tool") + " make " + maker.File("book.txt") + " -o " +
+                    program.Path("Book") + " --stub " + program.Path("Vireo") + " --images " +
+                    maker.str() + " --cover " + maker.File("cover.bmp"),
+                {}, maker);
   ASSERT_EQ(made.status, 0) << made.err;
 
   struct Case {

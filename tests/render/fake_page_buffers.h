@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "fake_surface.h"
 #include "book/picture.h"
+#include "fake_surface.h"
 #include "render/page_buffers.h"
 
 namespace vireo::test {
@@ -19,8 +19,8 @@ class FakePictureDecoder : public PictureDecoder {
   Picture Decode(std::string_view bytes, std::string& why) const override {
     int width = 0;
     int height = 0;
-    if (std::sscanf(std::string(bytes).c_str(), "PIC %d %d", &width, &height) != 2 ||
-        width <= 0 || height <= 0 || width > 4000 || height > 4000) {
+    if (std::sscanf(std::string(bytes).c_str(), "PIC %d %d", &width, &height) != 2 || width <= 0 ||
+        height <= 0 || width > 4000 || height > 4000) {
       why = "not a picture";
       return {};
     }

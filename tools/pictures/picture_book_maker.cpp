@@ -56,18 +56,24 @@ void DrawBranch(QPainter& painter, QPointF from, QPointF to, double width) {
   painter.setBrush(QColor(70, 140, 60));
   for (int i = 1; i < 6; ++i) {
     const QPointF leaf = from + (to - from) * (i / 6.0);
-    painter.drawEllipse(leaf + QPointF(0, (i % 2 ? -1 : 1) * width * 1.6), width * 1.8, width * 0.8);
+    painter.drawEllipse(leaf + QPointF(0, (i % 2 ? -1 : 1) * width * 1.6), width * 1.8,
+                        width * 0.8);
   }
+}
+
+// Fills area with colours running from top to bottom.
+void FillVertical(QPainter& painter, const QRect& area, QColor top, QColor bottom) {
+  QLinearGradient gradient(0, area.top(), 0, area.bottom());
+  gradient.setColorAt(0, top);
+  gradient.setColorAt(1, bottom);
+  painter.fillRect(area, gradient);
 }
 
 QImage BirdOnBranch() {
   QImage image(360, 240, QImage::Format_RGB32);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
-  QLinearGradient sky(0, 0, 0, 240);
-  sky.setColorAt(0, QColor(150, 200, 240));
-  sky.setColorAt(1, QColor(235, 245, 255));
-  painter.fillRect(image.rect(), sky);
+  FillVertical(painter, image.rect(), QColor(150, 200, 240), QColor(235, 245, 255));
   DrawBranch(painter, QPointF(0, 180), QPointF(360, 150), 8);
   DrawBird(painter, QPointF(170, 140), 34, QColor(200, 60, 50));
   return image;
@@ -77,10 +83,7 @@ QImage RiverAtDawn() {
   QImage image(420, 220, QImage::Format_RGB32);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
-  QLinearGradient sky(0, 0, 0, 130);
-  sky.setColorAt(0, QColor(60, 70, 140));
-  sky.setColorAt(1, QColor(250, 180, 120));
-  painter.fillRect(QRect(0, 0, 420, 130), sky);
+  FillVertical(painter, QRect(0, 0, 420, 130), QColor(60, 70, 140), QColor(250, 180, 120));
   QRadialGradient sun(QPointF(300, 130), 60);
   sun.setColorAt(0, QColor(255, 230, 150));
   sun.setColorAt(1, QColor(255, 230, 150, 0));
@@ -100,10 +103,7 @@ QImage Cover() {
   QImage image(480, 680, QImage::Format_RGB32);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
-  QLinearGradient ground(0, 0, 0, 680);
-  ground.setColorAt(0, QColor(30, 70, 60));
-  ground.setColorAt(1, QColor(15, 35, 30));
-  painter.fillRect(image.rect(), ground);
+  FillVertical(painter, image.rect(), QColor(30, 70, 60), QColor(15, 35, 30));
   painter.setPen(QPen(QColor(210, 180, 90), 6));
   painter.setBrush(Qt::NoBrush);
   painter.drawRect(QRectF(24, 24, 432, 632));
