@@ -93,6 +93,7 @@ void PagePlotter::AddImage(int, int image_number, double left, int line_index) {
     if (picture == nullptr || picture->empty()) return;
     const TwipsSize size = PictureSizeOnPage(*picture, area_);
     const double top = area_.top_border + line_index * area_.line_pitch;
+    images_->SetImageTop(top);
     buffers_.Box(composing_box_)
         .PaintPicture(*picture, left + images_->ImageLeft(), top, size.width, size.height);
   });
@@ -150,6 +151,7 @@ void PagePlotter::SetTexture(int box) {
 }
 
 void PagePlotter::DrawTitlePage() {
+  HideCover();  // the welcome page of an empty book has no cover
   Trap("DrawTitlePage", kModule, [&] {
     Surface& hints = buffers_.Box(kLeftPageBox);
     Surface& welcome = prefs_.single_page_mode ? hints : buffers_.Box(kRightPageBox);

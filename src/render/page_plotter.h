@@ -53,11 +53,12 @@ class PagePlotter : public BookDisplay, public PrintPageObserver {
 
   // The pictures of the open book (not owned; nullptr for none) and its
   // cover (not owned; nullptr for none; shown at once where it belongs).
-  void SetPictures(const clsNewImages* images) { images_ = images; }
+  void SetPictures(clsNewImages* images) { images_ = images; }
   void SetCover(const Picture* cover);
 
   // PrintPageObserver: picture image_number goes on the page being composed,
-  // at the store's ImageLeft from left, on line line_index.
+  // at the store's ImageLeft from left, on line line_index (its top is kept
+  // as the store's ImageTop).
   void AddImage(int page_side, int image_number, double left, int line_index) override;
 
   // Every box gets the paper colour as back colour, the ink colour as fore
@@ -78,7 +79,7 @@ class PagePlotter : public BookDisplay, public PrintPageObserver {
   PageTextArea area_;
   std::string search_term_;
   bool font_tables_stale_ = true;
-  const clsNewImages* images_ = nullptr;
+  clsNewImages* images_ = nullptr;
   const Picture* cover_ = nullptr;
   bool cover_shown_ = false;
   int composing_box_ = kLeftPageBox;

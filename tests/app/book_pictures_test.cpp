@@ -86,6 +86,10 @@ TEST(BookPictures, TheCoverShowsOverTheFirstSpreadOnly) {
   EXPECT_NE(reader.buffers.cover, nullptr);
   reader.logic.spread().ShowPage(7);
   EXPECT_EQ(reader.buffers.cover, nullptr);
+  reader.logic.spread().ShowPage(1);
+  ASSERT_NE(reader.buffers.cover, nullptr);
+  reader.logic.book().CloseBook();
+  EXPECT_EQ(reader.buffers.cover, nullptr);
 }
 
 }  // namespace
