@@ -3,7 +3,8 @@
 # it at the default window size: the whole window, the first spread in
 # two-page and in single-page mode, the title page of a reader without a
 # book, the settings dialog, the about window, the error-report form, the
-# Create ebook dialog, the Open dialog, the help window and the print preview.
+# Create ebook dialog, the Open dialog, the help window and the print preview,
+# and the sample book with pictures (its cover, a spread with pictures).
 #   scripts/pictures.sh [OUTPUT_FOLDER]   (default: build/pictures)
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -16,7 +17,7 @@ out=$(cd "$out" && pwd)  # the reader runs from another folder
 # A clean program folder, so that no earlier preferences change the look.
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-cp "$bin/vireo-tool" "$bin/Vireo" "$bin/Genesis" "$bin/libvHtml.so" "$bin"/paper*.jpg "$work/"
+cp "$bin/vireo-tool" "$bin/Vireo" "$bin/Genesis" "$bin/Birdsong" "$bin/libvHtml.so" "$bin"/paper*.jpg "$work/"
 export XDG_RUNTIME_DIR="$work" XDG_DATA_HOME="$work/xdg"
 QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_SCREENSHOT="$out/main-window.png" \
   "$work/Genesis" >/dev/null
@@ -47,3 +48,7 @@ rm -f "$work/Vireo.ini" "$work/BookMarks.ini"
 "$work/vireo-tool" render "$work/Genesis" --page 1 -o "$out/first-spread.png"
 "$work/vireo-tool" render "$work/Genesis" --page 1 --single -o "$out/first-page-single.png"
 "$work/vireo-tool" render "$work/Vireo" --page 1 -o "$out/title-page.png" 2>/dev/null
+# The sample book with pictures: its cover over the first page, and a spread
+# with pictures on its pages.
+"$work/vireo-tool" render "$work/Birdsong" --page 1 -o "$out/cover-over-first-page.png"
+"$work/vireo-tool" render "$work/Birdsong" --page 3 -o "$out/spread-with-pictures.png"

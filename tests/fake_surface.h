@@ -51,6 +51,13 @@ class FakeSurface : public Surface {
                     font_size});
     SetCurrentX(CurrentX() + TextWidth(text));
   }
+  // A picture is recorded as a run "picture WxH" (in twips) at its corner.
+  void PaintPicture(const Picture& picture, double left, double top, double w, double h) override {
+    if (picture.empty()) return;
+    runs.push_back({"picture " + std::to_string(static_cast<int>(w)) + "x" +
+                        std::to_string(static_cast<int>(h)),
+                    left, top, false, false, false, 0, font_size});
+  }
   void Clear() override {
     runs.clear();
     ++clears;

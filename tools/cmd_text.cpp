@@ -3,6 +3,8 @@
 #include <cstdio>
 
 #include "book/book_reader.h"
+#include "book/cls_new_images.h"
+#include "book/picture_files.h"
 #include "book_commands.h"
 
 namespace vireo::tool {
@@ -40,15 +42,20 @@ int RunText(const Arguments& arguments) {
   if (path.empty()) {
     return Fail("usage: vireo-tool text FILE [--no-reformat] [--underscores] [--extra-line]");
   }
+  // Picture references are rewritten as the reader does, the book's folder
+  // being the file's folder; only whether a picture exists matters here.
+  clsNewImages images;
+  DiskPictureFiles disk;
+  const PictureLoading pictures{&images, &disk, BookFolderOf(path)};
   switch (kind) {
     case Kind::kBrn:
-      return Print(path, ReadPackedBookFile(path, PackedFileKind::kBrn, options));
+      return Print(path, ReadPackedBookFile(path, PackedFileKind::kBrn, options, pictures));
     case Kind::kBfl:
-      return Print(path, ReadPackedBookFile(path, PackedFileKind::kBfl, options));
+      return Print(path, ReadPackedBookFile(path, PackedFileKind::kBfl, options, pictures));
     case Kind::kEbook:
       break;
   }
-  return Print(path, ReadEmbeddedBook(path, options));
+  return Print(path, ReadEmbeddedBook(path, options, nullptr, pictures));
 }
 
 }  // namespace vireo::tool

@@ -174,12 +174,34 @@ void BookCanvasWidget::paintEvent(QPaintEvent*) {
   }
   PaintFrame(painter, 0);
   if (layout_.right_frame_visible) PaintFrame(painter, 1);
+  PaintCover(painter);
   if (marker_page_ >= 0) {
     const QRectF frame = FrameRect(marker_page_);
     painter.fillRect(QRectF(frame.left(), frame.top() + Pixels(marker_top_), frame.width(),
                             Pixels(marker_bottom_ - marker_top_)),
                      QColor(255, 220, 0, 80));
   }
+}
+
+void BookCanvasWidget::ShowCoverPicture(const Picture* cover) {
+  const bool was_shown = !cover_.isNull();
+  cover_ = cover != nullptr ? ImageOfPicture(*cover) : QImage();
+  if (was_shown || !cover_.isNull()) update(FrameRect(0).toAlignedRect());
+}
+
+// The cover fills as much of the first page frame as its proportions allow,
+// centred in it.
+void BookCanvasWidget::PaintCover(QPainter& painter) const {
+  if (cover_.isNull()) return;
+  const QRectF frame = FrameRect(0);
+  if (frame.isEmpty()) return;
+  QSizeF size = QSizeF(cover_.size());
+  size.scale(frame.size(), Qt::KeepAspectRatio);
+  const QRectF target(frame.center() - QPointF(size.width() / 2, size.height() / 2), size);
+  painter.save();
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(target, cover_);
+  painter.restore();
 }
 
 void BookCanvasWidget::SetLamp(Lamp lamp) {

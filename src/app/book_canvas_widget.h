@@ -12,6 +12,7 @@
 
 #include "render/book_view.h"
 #include "render/page_buffers.h"
+#include "render/picture_decoder_qt.h"
 #include "render/qt_surface_qt.h"
 
 namespace vireo {
@@ -55,6 +56,8 @@ class BookCanvasWidget : public QWidget, public PageBuffers {
   TwipsSize LanguageListSize() const override;
   void PlaceLanguageList(const LanguageListPlacement& placement) override;
   void SetLanguageListVisible(bool visible) override;
+  void ShowCoverPicture(const Picture* cover) override;
+  const PictureDecoder* Pictures() const override { return &decoder_; }
 
   const BookViewLayout& layout() const { return layout_; }
   // The box's buffer with all drawing on it finished.
@@ -96,6 +99,7 @@ class BookCanvasWidget : public QWidget, public PageBuffers {
   };
   void ForwardMouse(QMouseEvent* event);
   void PaintFrame(QPainter& painter, int frame) const;
+  void PaintCover(QPainter& painter) const;
   void ResizeBuffers(double width_twips, double height_twips);
   const QImage* Texture(int slot);
 
@@ -107,6 +111,8 @@ class BookCanvasWidget : public QWidget, public PageBuffers {
   std::array<QImage, 4> textures_;
   std::array<QString, 4> texture_paths_;
   LampWidget* lamp_ = nullptr;
+  QtPictureDecoder decoder_;
+  QImage cover_;  // shares the shown cover's pixels; null when none is shown
   QListWidget* lstLanguages_;
   QLabel* lblLanguages_;
   int pressed_page_ = -1;

@@ -1,8 +1,10 @@
 #include "app/book_loader.h"
 
 #include "book/book_reader.h"
+#include "book/cover_picture.h"
 #include "support/error_trap.h"
 #include "support/logging.h"
+#include "support/translation.h"
 
 namespace vireo {
 namespace {
@@ -12,8 +14,8 @@ constexpr std::string_view kProcedure = "sub loadfile";
 
 }  // namespace
 
-BookLoader::BookLoader(ReaderContext& context, BookSession& session)
-    : context_(context), session_(session) {}
+BookLoader::BookLoader(ReaderContext& context, BookSpread& spread, BookSession& session)
+    : context_(context), spread_(spread), session_(session) {}
 
 void BookLoader::ShowProgress(std::string_view caption, int value, int maximum) {
   const int percent = maximum > 0 ? value * 100 / maximum : 0;
@@ -24,10 +26,15 @@ void BookLoader::ShowProgress(std::string_view caption, int value, int maximum) 
 void BookLoader::OpenBook(const std::string& path) {
   const FormattingOptions options{context_.reformat, context_.prefs.underscores,
                                   context_.prefs.extra_paragraph_line};
-  BookReadResult book =
-      ReadBookFile(path, options, [this](std::string_view caption, int value, int maximum) {
+  context_.picture_files.Forget();
+  // A book's pictures sit beside it (an appended book's in the program's folder).
+  const PictureLoading pictures{&context_.images, &context_.picture_files, BookFolderOf(path)};
+  BookReadResult book = ReadBookFile(
+      path, options,
+      [this](std::string_view caption, int value, int maximum) {
         ShowProgress(caption, value, maximum);
-      });
+      },
+      pictures);
   context_.view.ShowProgress("");
   Trap(kProcedure, kModule, [&] {
     if (!book.has_book) {
@@ -37,9 +44,31 @@ void BookLoader::OpenBook(const std::string& path) {
     session_.BookLoaded(std::move(book.text), std::move(book.author), std::move(book.title), path);
     session_.SetStoredDetails(std::move(book.stored_title), book.stored_size);
     session_.ReadBookmark();
+    LoadCover(book.packed_cover, path);
     LogAction("Reindexing file");
     session_.ReindexFile(true);
     context_.buffers.SetLanguageListVisible(false);
+  });
+}
+
+void BookLoader::LoadCover(const std::string& packed_cover, const std::string& path) {
+  Trap("sub loadcover", kModule, [&] {
+    LogAction("Loading cover image");
+    context_.view.ShowProgress(GetTranslation("Loading cover image"));
+    struct ProgressCleared {
+      MainWindowView& view;
+      ~ProgressCleared() { view.ShowProgress(""); }
+    } cleared{context_.view};
+    spread_.plotter().SetCover(nullptr);
+    context_.cover = Picture{};
+    const std::optional<std::string> bytes =
+        CoverPictureBytes(packed_cover, path, context_.picture_files);
+    const PictureDecoder* decoder = context_.buffers.Pictures();
+    if (!bytes || decoder == nullptr) return;
+    std::string why;
+    context_.cover = decoder->Decode(*bytes, why);
+    if (context_.cover.empty()) LogAction("The cover cannot be shown: " + why);
+    spread_.plotter().SetCover(&context_.cover);
   });
 }
 

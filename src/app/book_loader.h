@@ -3,6 +3,7 @@
 #include <string>
 
 #include "app/book_session.h"
+#include "app/book_spread.h"
 #include "app/reader_context.h"
 
 namespace vireo {
@@ -10,10 +11,12 @@ namespace vireo {
 // Opening a book file: read it, find the markers, unpack and reformat it
 // (progress shown on the window's progress display), take the reading
 // position from the bookmarks and paginate it there
-// (LoadFile). Its errors are logged under "sub loadfile" of "frmMain".
+// (LoadFile). The picture references become placeholders of the image store
+// and the book's cover is loaded (see CoverPictureBytes). Its errors are
+// logged under "sub loadfile" of "frmMain".
 class BookLoader {
  public:
-  BookLoader(ReaderContext& context, BookSession& session);
+  BookLoader(ReaderContext& context, BookSpread& spread, BookSession& session);
 
   // Loads the book appended to the file at path (the program's own
   // executable at start-up, a dropped or named file, the book again after a
@@ -24,8 +27,11 @@ class BookLoader {
 
  private:
   void ShowProgress(std::string_view caption, int value, int maximum);
+  // The open book's cover into context.cover and onto the plotter.
+  void LoadCover(const std::string& packed_cover, const std::string& path);
 
   ReaderContext& context_;
+  BookSpread& spread_;
   BookSession& session_;
 };
 

@@ -28,6 +28,8 @@ std::string WithoutReindexingMark(std::string caption) {
 BookSession::BookSession(ReaderContext& context, BookSpread& spread)
     : context_(context), spread_(spread) {
   context_.reindex.SetEvents(this);
+  context_.reindex.SetImageHeights(
+      [this](int32_t number) { return spread_.pictures().ImageHeight(number); });
   context_.reindex.SetMessagePump(&context_.pump);
 }
 

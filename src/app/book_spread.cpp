@@ -19,9 +19,14 @@ BookSpread::BookSpread(ReaderContext& context)
       composer_(context.pump),
       plotter_(context.buffers, context.book, context.prefs, composer_,
                context.reindex.FontMetrics()),
+      pictures_(context.images, plotter_.text_area()),
       cache_(plotter_, context.buffers, context.pump, context.reading),
       turner_(plotter_, context.buffers, context.pump, cache_, context.reading, turn_settings_),
-      navigator_(plotter_, context.reading) {}
+      navigator_(plotter_, context.reading) {
+  composer_.SetImageStore(&pictures_);
+  composer_.SetObserver(&plotter_);
+  plotter_.SetPictures(&context.images);
+}
 
 void BookSpread::LayOutBook() {
   for (int box = 0; box < PageBuffers::kBoxCount; ++box) plotter_.ClearPage(box);

@@ -5,6 +5,7 @@
 
 #include "app/reader_context.h"
 #include "nav/page_navigation.h"
+#include "render/page_pictures.h"
 #include "render/page_plotter.h"
 #include "render/page_turner.h"
 #include "render/print_page.h"
@@ -55,6 +56,7 @@ class BookSpread {
   const PageCache& cache() const { return cache_; }
   PageTurner& turner() { return turner_; }
   PageNavigator& navigator() { return navigator_; }
+  const PagePictures& pictures() const { return pictures_; }
 
  private:
   // The turns read the sweep preferences as they stand (the settings dialog
@@ -66,6 +68,7 @@ class BookSpread {
   TurnSettings turn_settings_;
   clsPrintPage composer_;
   PagePlotter plotter_;
+  PagePictures pictures_;
   PageCache cache_;
   PageTurner turner_;
   PageNavigator navigator_;

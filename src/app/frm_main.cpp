@@ -7,7 +7,7 @@ frmMain::frmMain(MainWindowView& view, PageBuffers& buffers, UserInteraction& us
     : context_(view, buffers, user, pump, std::move(location)),
       spread_(context_),
       session_(context_, spread_),
-      loader_(context_, session_),
+      loader_(context_, spread_, session_),
       search_(context_, spread_, session_),
       view_commands_(context_, spread_, session_),
       preferences_(context_, spread_),

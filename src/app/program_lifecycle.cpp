@@ -111,8 +111,10 @@ void ProgramLifecycle::RunStartupSteps() {
     LogAction("Scanning fonts");
     view.ShowProgress("Scanning fonts...");
   });
-  // FIXME: the image store is created here once pictures in books land.
-  StartupStep([&] { view.ShowProgress("Setting up image containers..."); });
+  StartupStep([&] {
+    view.ShowProgress("Setting up image containers...");
+    context_.images.SetDecoder(context_.buffers.Pictures());
+  });
   StartupStep([&] { program_folder_ = ProgramFolderString(folder); });
   StartupStep([&] { ApplyPreferences(); });
   StartupStep([&] {
@@ -173,6 +175,7 @@ void ProgramLifecycle::StoreSettings() {
 
 void ProgramLifecycle::ClosingRoutine() {
   Trap("sub closingroutine", kModule, [&] {
+    context_.images.ClearAll();
     context_.pump.Yield();
     ShutdownProg(context_.view);
   });

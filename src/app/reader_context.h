@@ -4,6 +4,8 @@
 
 #include "app/main_window_view.h"
 #include "app/program_location.h"
+#include "book/cls_new_images.h"
+#include "book/picture_files.h"
 #include "layout/reindex.h"
 #include "prefs/reader_preferences.h"
 #include "render/book_pages.h"
@@ -33,8 +35,11 @@ struct ReaderContext {
 
   ReaderPreferences prefs;
   ReadingState reading;
-  BookPages book;      // the open book's text and page index
-  clsReindex reindex;  // the paginator, with the font tables it measures by
+  BookPages book;                  // the open book's text and page index
+  clsReindex reindex;              // the paginator, with the font tables it measures by
+  clsNewImages images;             // the pictures of the open book
+  DiskPictureFiles picture_files;  // where books' pictures are looked for on disk
+  Picture cover;                   // the open book's cover (empty: none)
   WindowColours system_colours;
 
   // The busy flags commands respect: a command that arrives while one is

@@ -267,6 +267,10 @@ MakeResult MakeEbook(const MakeRequest& request) {
     AppendPackedBody(file, text, Detail(request.author, tally), Detail(request.title, tally));
     result.text_length = text.size();
     result.stored_size = file.size() - body_start;
+    if (request.after_book) {
+      stage = "cannot pack the pictures";
+      request.after_book(file, text);
+    }
     text = std::string();  // not needed while the file is written
     stage = "cannot write " + request.out_path;
     progress("Writing the book", 80);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -74,6 +75,10 @@ struct MakeRequest {
   std::vector<std::string> kept_paths{};
   // Told the stage (English, untranslated) and the percentage done.
   ProgressHandler progress = nullptr;
+  // Adds a section of the maker's own after the packed book (given the
+  // whole file so far and the packable text); none when not set, and the
+  // ebook then ends with the book. May throw RuntimeError.
+  std::function<void(std::string& file, std::string_view text)> after_book = nullptr;
 };
 
 struct MakeResult {

@@ -8,8 +8,10 @@
 #include <optional>
 #include <stdexcept>
 
+#include "book/cls_new_images.h"
 #include "book/html_references.h"
 #include "book/load_file.h"
+#include "book/picture_section.h"
 #include "support/error_trap.h"
 #include "support/file_io.h"
 #include "support/logging.h"
@@ -96,6 +98,26 @@ std::optional<PackedFileKind> PackedKindByName(const std::string& path) {
   return std::nullopt;
 }
 
+// A book's picture files while it is unpacked: the store looks in files
+// during the conversion and in nothing afterwards.
+class BookPictures {
+ public:
+  BookPictures(clsBIN& bin, const PictureLoading& pictures, PictureFiles& files)
+      : store_(pictures.store) {
+    if (store_ == nullptr) return;
+    store_->SetFiles(&files);
+    bin.SetImageStore(store_, pictures.folder);
+  }
+  ~BookPictures() {
+    if (store_ != nullptr) store_->SetFiles(nullptr);
+  }
+  BookPictures(const BookPictures&) = delete;
+  BookPictures& operator=(const BookPictures&) = delete;
+
+ private:
+  clsNewImages* store_;
+};
+
 }  // namespace
 
 std::string NoBookMessage(const std::string& path) {
@@ -106,11 +128,13 @@ std::string NoBookMessage(const std::string& path) {
 }
 
 BookReadResult ReadEmbeddedBook(const std::string& path, const FormattingOptions& options,
-                                const ProgressHandler& progress) {
+                                const ProgressHandler& progress, const PictureLoading& pictures) {
   BookReadResult result;
   try {
     LogAction("Loading from: " + path);
     std::string file = ReadWholeFile(path);
+    const PackedPictures packed = TakePictureSection(file);
+    if (const PackedPicture* cover = packed.Cover()) result.packed_cover = cover->bytes;
     const std::string header_marker = HeaderMarker();
     const size_t header_at = file.find(header_marker);
     if (header_at == std::string::npos) {
@@ -130,6 +154,9 @@ BookReadResult ReadEmbeddedBook(const std::string& path, const FormattingOptions
     result.stored_size = file.size();
     bin.set_body(std::move(file));
     LogAction("Converting book");
+    NoPictureFiles nothing;
+    PackedPictureFiles files(packed, pictures.disk != nullptr ? *pictures.disk : nothing);
+    const BookPictures attached(bin, pictures, files);
     bin.ConvertLoadedBRN();
     FinishText(bin, result, path);
     result.title = FileNamePart(path);
@@ -142,13 +169,16 @@ BookReadResult ReadEmbeddedBook(const std::string& path, const FormattingOptions
 
 BookReadResult ReadPackedBookFile(const std::string& path, PackedFileKind kind,
                                   const FormattingOptions& options,
-                                  const ProgressHandler& progress) {
+                                  const ProgressHandler& progress,
+                                  const PictureLoading& pictures) {
   BookReadResult result;
   if (!FileExists(path)) {
     result.message = "File not found: " + path;
     return result;
   }
   clsBIN bin(options, progress);
+  NoPictureFiles nothing;
+  const BookPictures attached(bin, pictures, pictures.disk != nullptr ? *pictures.disk : nothing);
   if (kind == PackedFileKind::kBrn) {
     bin.ConvertAndLoadBRN(path);
   } else {
@@ -165,16 +195,12 @@ BookReadResult ReadPackedBookFile(const std::string& path, PackedFileKind kind,
   return result;
 }
 
-}  // namespace vireo
-
-namespace vireo {
-
 BookReadResult ReadBookFile(const std::string& path, const FormattingOptions& options,
-                            const ProgressHandler& progress) {
-  BookReadResult book = ReadEmbeddedBook(path, options, progress);
+                            const ProgressHandler& progress, const PictureLoading& pictures) {
+  BookReadResult book = ReadEmbeddedBook(path, options, progress, pictures);
   const std::optional<PackedFileKind> kind = PackedKindByName(path);
   if (book.has_book || !book.show_message || !kind) return book;
-  book = ReadPackedBookFile(path, *kind, options, progress);
+  book = ReadPackedBookFile(path, *kind, options, progress, pictures);
   if (book.has_book && (!book.damage.empty() || book.text.empty())) {
     book = BookReadResult{};
     book.message = GetTranslation("This file holds no book that can be read.") + "\n" + path;

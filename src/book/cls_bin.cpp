@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "book/cls_new_images.h"
 #include "book/cls_strip_cr.h"
 #include "book/reading_order.h"
 #include "book/scrambling.h"
@@ -229,11 +230,9 @@ void clsBIN::FinalPass() {
 
 void clsBIN::ParseImages(std::string& text) {
   Step("sub parseimages", [&] {
-    // FIXME: the image store (ClearAll, then LoadAllImages with the book
-    // folder, the text and the packed-book flag) rewrites picture references
-    // into placeholders here once it exists; until then the text stays as
-    // it is.
-    static_cast<void>(text);
+    if (images_ == nullptr) return;
+    images_->ClearAll();
+    images_->LoadAllImages(picture_folder_.empty() ? book_folder_ : picture_folder_, text, true);
   });
 }
 

@@ -8,6 +8,8 @@
 
 namespace vireo {
 
+class clsNewImages;
+
 // The book details read from a packed book: detail field 1 and field 3.
 struct BookDetails {
   std::string author;
@@ -54,6 +56,14 @@ class clsBIN {
   void FinalPass();                     // reformatting and placeholders 200
   void ParseImages(std::string& text);  // picture references
 
+  // The image store ParseImages rewrites the picture references with (not
+  // owned; nullptr, the default: the references stay as they are), and the
+  // folder it looks in ("": the book's folder).
+  void SetImageStore(clsNewImages* images, std::string folder = "") {
+    images_ = images;
+    picture_folder_ = std::move(folder);
+  }
+
   void set_header_block(std::string header_block) { header_block_ = std::move(header_block); }
   void set_body(std::string body) { body_ = std::move(body); }
   const std::string& header_block() const { return header_block_; }
@@ -84,6 +94,8 @@ class clsBIN {
   std::string result_text_;
   BookDetails details_;
   std::string first_failure_;
+  clsNewImages* images_ = nullptr;
+  std::string picture_folder_;
 };
 
 // The folder of a book file in which its side files are looked for: the

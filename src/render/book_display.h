@@ -63,7 +63,6 @@ class BookDisplay {
   virtual void DrawTitlePage() = 0;
 
   // The book's cover picture over the first page, and taking it away.
-  // FIXME: hooks only until the cover picture is loaded and shown.
   virtual void ShowCover() = 0;
   virtual void HideCover() = 0;
 

@@ -11,6 +11,8 @@
 namespace vireo {
 
 class Surface;
+class PictureDecoder;
+struct Picture;
 
 // The page pictures on screen: eight buffers Page(0)..Page(7) of the page
 // size, shown through movable boxes in the two page frames, with their
@@ -69,6 +71,14 @@ class PageBuffers {
   // A translucent band over the lines of a page frame (frame -1: none), in
   // twips from the page's top.
   virtual void SetLineMarker(int frame, double top, double bottom) = 0;
+
+  // The book's cover over the first page frame, scaled to fit it with its
+  // proportions kept and centred; nullptr takes it away. The picture must
+  // stay alive while it is shown.
+  virtual void ShowCoverPicture(const Picture* cover) = 0;
+  // What decodes the pictures of books on this window system; nullptr when
+  // pictures are not decoded.
+  virtual const PictureDecoder* Pictures() const { return nullptr; }
 
   // The language list beside the title page's hints: its size, its place
   // and whether it is shown.

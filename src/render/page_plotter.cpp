@@ -2,11 +2,12 @@
 
 #include <string>
 
+#include "book/cls_new_images.h"
 #include "layout/font_metrics.h"
 #include "prefs/reader_preferences.h"
 #include "render/book_pages.h"
 #include "render/page_buffers.h"
-#include "render/print_page.h"
+#include "render/page_pictures.h"
 #include "render/surface.h"
 #include "render/title_page.h"
 #include "support/error_trap.h"
@@ -47,6 +48,7 @@ void PagePlotter::PlotOnPage(PageSide side, int box, int page) {
       return;
     }
     if (page < 1 || page > book_.PageCount()) return;
+    if (box == kLeftPageBox) page == 1 ? ShowCover() : HideCover();
     ComposePage(side, box, page);
   });
   if (title_page) {
@@ -61,7 +63,9 @@ void PagePlotter::ComposePage(PageSide side, int box, int page) {
   SetTexture(box);
   surface.SetFontSize(prefs_.font_size);
   SetPageBorders();
+  composing_surface_ = &surface;
   composer_.DisplayPage(SettingsFor(side, page, PageTarget::kScreen), surface, metrics_);
+  composing_surface_ = nullptr;
   DrawPageNumber(surface, page);
 }
 
@@ -103,12 +107,43 @@ void PagePlotter::PrintOnPage(int page, Surface& printer) {
   Trap("sub printonpage", kModule, [&] {
     if (page < 1 || page > book_.PageCount()) return;
     const PageSettings settings = SettingsFor(PageSide::kLeft, page, PageTarget::kPrinter);
+    composing_surface_ = &printer;
     composer_.ComposeLines(settings, metrics_);
+    composing_surface_ = nullptr;
     printer.SetFontSize(prefs_.font_size);
     printer.SetForeColor(prefs_.ink_colour);
     composer_.PrintPage(settings, printer);
     DrawPageNumber(printer, page);
   });
+}
+
+void PagePlotter::AddImage(int, int image_number, double left, int line_index) {
+  Trap("sub addimage", kModule, [&] {
+    if (images_ == nullptr) return;
+    const Picture* picture = images_->Image(image_number);
+    if (picture == nullptr || picture->empty()) return;
+    const TwipsSize size = PictureSizeOnPage(*picture, area_);
+    const double top = area_.top_border + line_index * area_.line_pitch;
+    images_->SetImageTop(top);
+    // Composing only for the page's lines (copy, read aloud) draws nothing.
+    if (composing_surface_ == nullptr) return;
+    composing_surface_->PaintPicture(*picture, left + images_->ImageLeft(), top, size.width, size.height);
+  });
+}
+
+void PagePlotter::SetCover(const Picture* cover) {
+  cover_ = cover != nullptr && !cover->empty() ? cover : nullptr;
+  buffers_.ShowCoverPicture(cover_shown_ ? cover_ : nullptr);
+}
+
+void PagePlotter::ShowCover() {
+  cover_shown_ = true;
+  buffers_.ShowCoverPicture(cover_);
+}
+
+void PagePlotter::HideCover() {
+  cover_shown_ = false;
+  buffers_.ShowCoverPicture(nullptr);
 }
 
 // The number goes centred at the page's foot, 8 points, in the ink colour
@@ -147,6 +182,7 @@ void PagePlotter::SetTexture(int box) {
 }
 
 void PagePlotter::DrawTitlePage() {
+  HideCover();  // the welcome page of an empty book has no cover
   Trap("DrawTitlePage", kModule, [&] {
     Surface& hints = buffers_.Box(kLeftPageBox);
     Surface& welcome = prefs_.single_page_mode ? hints : buffers_.Box(kRightPageBox);

@@ -6,11 +6,13 @@
 #include "render/book_display.h"
 #include "render/book_view.h"
 #include "render/page_settings.h"
+#include "render/print_page.h"
 
 namespace vireo {
 
 class PageBuffers;
-class clsPrintPage;
+class clsNewImages;
+struct Picture;
 class clsFontMetrics;
 class Surface;
 struct BookPages;
@@ -19,9 +21,11 @@ struct ReaderPreferences;
 // Draws into the page buffers: paper, page text, page numbers and the title
 // page, each box shown once drawn. Reads the open book through `book`, the
 // live preferences and the current font metrics, which it measures again
-// when the font has changed; all must outlive it. Errors are logged under
-// module "frmMain" with each procedure's own name.
-class PagePlotter : public BookDisplay {
+// when the font has changed; all must outlive it. It draws the pictures the
+// composer places into the page picture itself, so that the cache, the sweep
+// and printing carry them like the text. Errors are logged under module
+// "frmMain" with each procedure's own name.
+class PagePlotter : public BookDisplay, public PrintPageObserver {
  public:
   PagePlotter(PageBuffers& buffers, const BookPages& book, const ReaderPreferences& prefs,
               clsPrintPage& composer, clsFontMetrics& metrics);
@@ -45,9 +49,9 @@ class PagePlotter : public BookDisplay {
   void PlotOnPage(PageSide side, int box, int page) override;
   void ClearPage(int box) override;
   void DrawTitlePage() override;
-  // FIXME: the book's cover picture is shown and hidden here once covers land.
-  void ShowCover() override {}
-  void HideCover() override {}
+  // The cover goes over Page(0) while it shows page 1.
+  void ShowCover() override;
+  void HideCover() override;
   bool BookLoaded() const override;
 
   // The lines of page `page` as it is laid out on screen (a line that ends
@@ -58,6 +62,17 @@ class PagePlotter : public BookDisplay {
   // screen and its number at the foot; the printer's own widths place the
   // glyphs and nothing is highlighted.
   void PrintOnPage(int page, Surface& printer);
+
+  // The pictures of the open book (not owned; nullptr for none) and its
+  // cover (not owned; nullptr for none; shown at once where it belongs).
+  void SetPictures(clsNewImages* images) { images_ = images; }
+  void SetCover(const Picture* cover);
+
+  // PrintPageObserver: picture image_number goes on the page being composed,
+  // at the store's ImageLeft from left, on line line_index (its top is kept
+  // as the store's ImageTop).
+  void AddImage(int page_side, int image_number, double left, int line_index) override;
+
   // Every box gets the paper colour as back colour, the ink colour as fore
   // colour, then its texture.
   void SetPageColours();
@@ -77,6 +92,10 @@ class PagePlotter : public BookDisplay {
   PageTextArea area_;
   std::string search_term_;
   bool font_tables_stale_ = true;
+  clsNewImages* images_ = nullptr;
+  const Picture* cover_ = nullptr;
+  bool cover_shown_ = false;
+  Surface* composing_surface_ = nullptr;  // while a page is composed for drawing
 };
 
 }  // namespace vireo

@@ -141,8 +141,7 @@ void PageTurner::WipeLeftToRight(int32_t page_count) {
         if (settings_.instant_page_turn) {
           LogDebug("Clearing page " + std::to_string(kLeftPageBox), kWipeLeftToRight, kModule);
           display_.ClearPage(kLeftPageBox);
-          // FIXME: the pictures of the page are hidden here once pictures are
-          // shown over the pages.
+          // The pictures are part of the page picture: clearing it hid them.
           LogDebug("Hiding Images on " + std::to_string(kLeftPageBox), kWipeLeftToRight, kModule);
           ShowPage(CacheSlot::kLeftLower, Int16(c - 3), PageSide::kLeft, kLeftPageBox,
                    kWipeLeftToRight);

@@ -32,6 +32,7 @@ void clsPrintPage::ComposeAndDraw(std::string_view procedure, const PageSettings
 
 void clsPrintPage::ComposeLines(const PageSettings& settings, const clsFontMetrics& metrics) {
   lines_.clear();
+  picture_placed_ = false;
   // The line array holds lines per page + 10 lines.
   line_capacity_ = static_cast<size_t>(std::max(0, settings.lines_per_page + 10));
   lines_.reserve(line_capacity_);
@@ -95,13 +96,17 @@ std::string clsPrintPage::Cleaned(std::string_view text) {
 }
 
 void clsPrintPage::StoreLine(std::string line) {
-  // An empty first line of the page is dropped.
-  if (lines_.empty() && line.find_first_not_of(" \n") == std::string::npos) return;
+  // An empty first line of the page is dropped, unless a picture placed
+  // above it needs it for room.
+  if (lines_.empty() && !picture_placed_ && line.find_first_not_of(" \n") == std::string::npos) {
+    return;
+  }
   Require(lines_.size() < line_capacity_, ErrorNumber::kSubscriptOutOfRange);
   lines_.push_back(std::move(line));
 }
 
-void clsPrintPage::RaiseAddImage(int page_side, int image_number, double left) const {
+void clsPrintPage::RaiseAddImage(int page_side, int image_number, double left) {
+  picture_placed_ = true;
   if (observer_ != nullptr) {
     observer_->AddImage(page_side, image_number, left, static_cast<int>(lines_.size()));
   }

@@ -96,7 +96,7 @@ class clsPrintPage {
                     double slice);
   // Called by the line composition.
   void StoreLine(std::string line);
-  void RaiseAddImage(int page_side, int image_number, double left) const;
+  void RaiseAddImage(int page_side, int image_number, double left);
   friend class PageLineComposer;
 
   MessagePump& pump_;
@@ -110,6 +110,7 @@ class clsPrintPage {
   std::string search_term_;
   std::vector<std::string> lines_;
   size_t line_capacity_ = 0;
+  bool picture_placed_ = false;  // on the page being composed
 };
 
 }  // namespace vireo

@@ -1,5 +1,7 @@
 #include "render/qt_surface_qt.h"
 
+#include "render/picture_decoder_qt.h"
+
 #include <QGlyphRun>
 
 #include <QPainter>
@@ -204,6 +206,19 @@ void QtSurface::EndPainting() {
 void QtSurface::DrawPicture(const QImage& picture, double x_twips, double y_twips) {
   DrawPendingGlyphs();
   Painter().drawImage(QPointF(x_twips / kTwipsPerPixel, y_twips / kTwipsPerPixel), picture);
+}
+
+void QtSurface::PaintPicture(const Picture& picture, double left, double top, double width,
+                             double height) {
+  if (picture.empty() || width <= 0 || height <= 0) return;
+  DrawPendingGlyphs();
+  QPainter& painter = Painter();
+  painter.save();
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(QRectF(left / kTwipsPerPixel, top / kTwipsPerPixel, width / kTwipsPerPixel,
+                           height / kTwipsPerPixel),
+                    ImageOfPicture(picture));
+  painter.restore();
 }
 
 void QtSurface::Clear() {

@@ -77,6 +77,8 @@ class QtSurface : public Surface {
   // Draws picture unscaled (in logical pixels) with its top-left corner at
   // x, y twips.
   void DrawPicture(const QImage& picture, double x_twips, double y_twips);
+  void PaintPicture(const Picture& picture, double left, double top, double width,
+                    double height) override;
 
   // Fills the surface with the back colour, then draws the texture, if any,
   // once at the top-left corner, unscaled and not tiled. The current

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "book/picture.h"
 #include "layout/text_measure.h"
 
 namespace vireo {
@@ -36,6 +37,14 @@ class Surface : public TextMeasure {
 
   // Paints the whole surface with the back colour (and texture, if any).
   virtual void Clear() = 0;
+
+  // Draws picture scaled into the rectangle (left, top, width, height), in
+  // twips, over what is there. An empty picture draws nothing; so does a
+  // surface that only measures.
+  virtual void PaintPicture(const Picture& picture, double left, double top, double width,
+                            double height) {
+    (void)picture, (void)left, (void)top, (void)width, (void)height;
+  }
 
   double CurrentX() const { return current_x_; }
   double CurrentY() const { return current_y_; }

@@ -73,6 +73,7 @@ class FakeBookDisplay : public BookDisplay, public PageBuffers {
   TwipsSize LanguageListSize() const override { return {}; }
   void PlaceLanguageList(const LanguageListPlacement&) override {}
   void SetLanguageListVisible(bool) override {}
+  void ShowCoverPicture(const Picture*) override {}
   void SetBoxWidth(int box, double twips) override {
     if (twips < 0) ++negative_widths;
     widths[box] = twips;

@@ -1,14 +1,34 @@
 #pragma once
 
 #include <array>
+#include <cstdio>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "book/picture.h"
 #include "fake_surface.h"
 #include "render/page_buffers.h"
 
 namespace vireo::test {
+
+// Decodes the test pictures: "PIC W H" (text) gives a W x H picture; anything
+// else is no picture.
+class FakePictureDecoder : public PictureDecoder {
+ public:
+  Picture Decode(std::string_view bytes, std::string& why) const override {
+    int width = 0;
+    int height = 0;
+    if (std::sscanf(std::string(bytes).c_str(), "PIC %d %d", &width, &height) != 2 || width <= 0 ||
+        height <= 0 || width > 4000 || height > 4000) {
+      why = "not a picture";
+      return {};
+    }
+    Picture picture{width, height, {}};
+    picture.pixels.assign(static_cast<size_t>(width) * static_cast<size_t>(height), 0xFF000000u);
+    return picture;
+  }
+};
 
 // Page buffers without a screen: fixed-width fake surfaces (6000 x 9000 twips until a layout
 // gives them the page size), with the calls that change what a box shows.
@@ -46,6 +66,8 @@ class FakePageBuffers : public PageBuffers {
   TwipsSize LanguageListSize() const override { return {1500, 1200}; }
   void PlaceLanguageList(const LanguageListPlacement& where) override { placement = where; }
   void SetLanguageListVisible(bool) override {}
+  void ShowCoverPicture(const Picture* shown) override { cover = shown; }
+  const PictureDecoder* Pictures() const override { return &decoder; }
 
   // Everything drawn on a box, its runs joined by blanks.
   std::string Text(int box) const {
@@ -61,6 +83,8 @@ class FakePageBuffers : public PageBuffers {
   std::optional<LanguageListPlacement> placement;
   int marker_frame = -1;
   double marker_top = 0;
+  const Picture* cover = nullptr;  // the cover on show
+  FakePictureDecoder decoder;
 };
 
 }  // namespace vireo::test

@@ -156,7 +156,10 @@ class LiteralComposer {
     std::string stored =
         indented_ && line.starts_with("   ") ? "   " + trim(line.substr(3)) : trim(line);
     if (ends_paragraph) stored += '\n';
-    if (page_.lines.empty() && stored.find_first_not_of(" \n") == stored.npos) return;
+    const bool blank = stored.find_first_not_of(" \n") == stored.npos;
+    if (page_.lines.empty() && page_.images.empty() && blank) {
+      return;
+    }
     if (page_.lines.size() >= static_cast<size_t>(std::max(0, settings_.lines_per_page + 10))) {
       throw std::length_error("line array full");
     }

@@ -1,0 +1,85 @@
+#include "book/picture_section.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "book/picture_files.h"
+#include "picture_test_files.h"
+#include "test_support.h"
+
+namespace vireo::test {
+namespace {
+
+PackedPictures TwoPictures() {
+  PackedPictures packed;
+  packed.Add("pics/a.png", "AAAA");
+  packed.cover = packed.Add("cover:c.jpg", std::string("C\0C", 3));
+  return packed;
+}
+
+TEST(PictureSection, RoundTripsAfterTheBookAndLeavesTheBookAsItWas) {
+  std::string file = "book bytes";
+  AppendPictureSection(file, TwoPictures());
+  const PackedPictures read = TakePictureSection(file);
+  EXPECT_EQ(file, "book bytes");
+  ASSERT_EQ(read.pictures.size(), 2u);
+  EXPECT_EQ(read.Find("PICS\\A.PNG")->bytes, "AAAA");
+  EXPECT_EQ(read.Find("pics/A.png")->bytes, "AAAA");
+  EXPECT_EQ(read.Cover()->bytes, std::string("C\0C", 3));
+
+  std::string plain = "book bytes";
+  EXPECT_TRUE(TakePictureSection(plain).pictures.empty());
+  EXPECT_EQ(plain, "book bytes");
+}
+
+TEST(PictureSection, DamagedSectionsNeverReadPastTheFile) {
+  std::string whole = "book";
+  AppendPictureSection(whole, TwoPictures());
+  const size_t trailer = whole.size() - 24;
+  struct Case {
+    const char* what;
+    size_t at;  // byte changed
+    char value;
+    size_t pictures;  // read before the damage
+  };
+  const Case cases[] = {
+      {"pictures part longer than the file", trailer + 15, '\x7F', 0},
+      {"more pictures than written", trailer, '\x09', 2},
+      {"first name length past the part", 4, '\x7F', 0},
+      {"second byte count past the part", 4 + 4 + 10 + 4 + 4 + 4 + 11, '\x40', 1},
+  };
+  for (const Case& c : cases) {
+    std::string file = whole;
+    file[c.at] = c.value;
+    const PackedPictures read = TakePictureSection(file);
+    EXPECT_EQ(read.pictures.size(), c.pictures) << c.what;
+    EXPECT_LE(file.size(), whole.size() - 24) << c.what;
+  }
+}
+
+TEST(PackedPictureFiles, PackedFirstUnderAnyFolderThenBehind) {
+  const PackedPictures packed = TwoPictures();
+  FakePictureFiles disk(std::map<std::string, std::string>{{"/book/D.PNG", "DDD"}});
+  PackedPictureFiles files(packed, disk);
+  EXPECT_EQ(files.Read("/prog/PICS\\A.PNG"), "AAAA");
+  EXPECT_EQ(files.Read("PICS\\A.PNG"), "AAAA");
+  EXPECT_TRUE(files.IsFile("/book/D.PNG"));
+  EXPECT_FALSE(files.IsFile("/book/E.PNG"));
+}
+
+TEST(DiskPictureFiles, FindsNamesWhateverTheirCaseAndOnlyRegularFiles) {
+  TempFolder folder;
+  std::filesystem::create_directories(folder.path() / "Pics" / "Deep");
+  WriteFile(folder.File("Pics/Deep/Bird.Png"), "bird");
+  DiskPictureFiles disk;
+  EXPECT_EQ(disk.Read(folder.str() + "/PICS\\DEEP\\BIRD.PNG"), "bird");
+  EXPECT_TRUE(disk.IsFile(folder.str() + "/pics/deep/bird.png"));
+  EXPECT_FALSE(disk.IsFile(folder.str() + "/PICS\\DEEP"));
+  EXPECT_FALSE(disk.IsFile(folder.str() + "/PICS\\NONE.PNG"));
+  EXPECT_FALSE(disk.IsFile("/dev/zero"));
+  EXPECT_FALSE(disk.IsFile(""));
+}
+
+}  // namespace
+}  // namespace vireo::test

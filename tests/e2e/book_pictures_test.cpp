@@ -1,0 +1,108 @@
+// An ebook that carries its pictures and cover, opened by the real reader
+// from a folder that holds no picture files.
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <sstream>
+
+#include "e2e/program_runner.h"
+
+namespace vireo {
+namespace {
+
+struct Rgb {
+  uint8_t r, g, b;
+};
+
+void AppendLittleEndian(std::string& out, uint32_t value, int bytes) {
+  for (int i = 0; i < bytes; ++i) out += static_cast<char>((value >> (8 * i)) & 0xFF);
+}
+
+// A BMP file of one colour (24 bits, rows padded to four bytes).
+std::string SolidBmp(int width, int height, Rgb colour) {
+  const int row = (width * 3 + 3) / 4 * 4;
+  std::string bmp = "BM";
+  AppendLittleEndian(bmp, 54 + row * height, 4);
+  AppendLittleEndian(bmp, 0, 4);
+  AppendLittleEndian(bmp, 54, 4);
+  for (const uint32_t field : {40u, uint32_t(width), uint32_t(height)}) {
+    AppendLittleEndian(bmp, field, 4);
+  }
+  AppendLittleEndian(bmp, 1, 2);
+  AppendLittleEndian(bmp, 24, 2);
+  for (int i = 0; i < 6; ++i) AppendLittleEndian(bmp, 0, 4);
+  std::string pixels;
+  for (int x = 0; x < width; ++x) pixels += {char(colour.b), char(colour.g), char(colour.r)};
+  pixels.resize(static_cast<size_t>(row), '\0');
+  for (int y = 0; y < height; ++y) bmp += pixels;
+  return bmp;
+}
+
+// Pixels of a binary PPM (P6) of the given colour.
+int CountPixels(const std::string& ppm, Rgb colour) {
+  std::istringstream in(ppm);
+  std::string magic;
+  int width = 0, height = 0, maximum = 0;
+  in >> magic >> width >> height >> maximum;
+  in.get();
+  const size_t start = static_cast<size_t>(in.tellg());
+  int count = 0;
+  for (size_t at = start; at + 2 < ppm.size(); at += 3) {
+    if (uint8_t(ppm[at]) == colour.r && uint8_t(ppm[at + 1]) == colour.g &&
+        uint8_t(ppm[at + 2]) == colour.b) {
+      ++count;
+    }
+  }
+  return magic == "P6" ? count : -1;
+}
+
+constexpr Rgb kPictureColour{250, 0, 250};
+constexpr Rgb kCoverColour{0, 190, 200};
+
+TEST(BookPictures, PackedPicturesAndCoverShowWithoutFilesBesideTheBook) {
+  test::ProgramFolder program;
+  test::TempFolder maker;
+  std::filesystem::create_directory(maker.path() / "pics");
+  test::WriteFile(maker.File("pics/Dot.bmp"), SolidBmp(60, 40, kPictureColour));
+  test::WriteFile(maker.File("cover.bmp"), SolidBmp(30, 40, kCoverColour));
+  std::string text;
+  for (int i = 1; i <= 60; ++i) {
+    text += "Paragraph " + std::to_string(i) + " runs on for a line or two of words.\r\n\r\n";
+    text += "[IMG SRC=\"PICS/dot.BMP\"]\r\n\r\n";
+  }
+  test::WriteFile(maker.File("book.txt"), text);
+  const auto made =
+      test::Run(program.Path("vireo-tool") + " make " + maker.File("book.txt") + " -o " +
+                    program.Path("Book") + " --stub " + program.Path("Vireo") + " --images " +
+                    maker.str() + " --cover " + maker.File("cover.bmp"),
+                {}, maker);
+  ASSERT_EQ(made.status, 0) << made.err;
+
+  struct Case {
+    const char* keys;
+    bool cover;
+  };
+  for (const Case c : {Case{"", true}, Case{"M", false}, Case{"MZ", true}}) {
+    const std::string picture = program.Path("window.ppm");
+    std::filesystem::remove(picture);
+    std::filesystem::remove(program.Path("BookMarks.ini"));  // every run starts at the beginning
+    const auto shown = test::RunWithin(
+        90, program.Path("Book"),
+        test::Unattended(program.folder(),
+                         {"VIREO_SCREENSHOT=" + picture, std::string("VIREO_KEYS=") + c.keys}),
+        program.folder());
+    ASSERT_EQ(shown.status, 0) << shown.err;
+    const std::string ppm = test::ReadFile(picture);
+    EXPECT_GE(CountPixels(ppm, kPictureColour), 60 * 40) << "keys " << c.keys;
+    EXPECT_EQ(CountPixels(ppm, kCoverColour) > 1000, c.cover) << "keys " << c.keys;
+  }
+  // The tool shows the text as the reader holds it: every reference numbered.
+  const std::string held =
+      test::Run(program.Path("vireo-tool") + " text " + program.Path("Book"), {}, maker).out;
+  EXPECT_NE(held.find("[IMG=59]"), std::string::npos);
+  EXPECT_EQ(held.find("SRC"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace vireo
