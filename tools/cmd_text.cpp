@@ -49,9 +49,11 @@ int RunText(const Arguments& arguments) {
   const PictureLoading pictures{&images, &disk, BookFolderOf(path)};
   switch (kind) {
     case Kind::kBrn:
-      return Print(path, ReadPackedBookFile(path, PackedFileKind::kBrn, options, pictures));
+      return Print(path,
+                   ReadPackedBookFile(path, PackedFileKind::kBrn, options, nullptr, pictures));
     case Kind::kBfl:
-      return Print(path, ReadPackedBookFile(path, PackedFileKind::kBfl, options, pictures));
+      return Print(path,
+                   ReadPackedBookFile(path, PackedFileKind::kBfl, options, nullptr, pictures));
     case Kind::kEbook:
       break;
   }

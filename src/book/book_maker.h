@@ -83,9 +83,9 @@ struct MakeRequest {
 
 struct MakeResult {
   bool ok = false;
-  std::string message;     // the one-line summary, or what went wrong
-  size_t text_length = 0;  // characters of the packable text
-  size_t stored_size = 0;  // bytes of the body
+  std::string message;                                 // the one-line summary, or what went wrong
+  size_t text_length = 0;                              // characters of the packable text
+  size_t stored_size = 0;                              // bytes of the body
   TextEncoding encoding = TextEncoding::kWindows1252;  // as the text was read
   // The characters that could not go into the book as themselves.
   std::vector<CharacterReplacement> replacements;

@@ -168,8 +168,7 @@ BookReadResult ReadEmbeddedBook(const std::string& path, const FormattingOptions
 }
 
 BookReadResult ReadPackedBookFile(const std::string& path, PackedFileKind kind,
-                                  const FormattingOptions& options,
-                                  const ProgressHandler& progress,
+                                  const FormattingOptions& options, const ProgressHandler& progress,
                                   const PictureLoading& pictures) {
   BookReadResult result;
   if (!FileExists(path)) {

@@ -127,7 +127,8 @@ void PagePlotter::AddImage(int, int image_number, double left, int line_index) {
     images_->SetImageTop(top);
     // Composing only for the page's lines (copy, read aloud) draws nothing.
     if (composing_surface_ == nullptr) return;
-    composing_surface_->PaintPicture(*picture, left + images_->ImageLeft(), top, size.width, size.height);
+    composing_surface_->PaintPicture(*picture, left + images_->ImageLeft(), top, size.width,
+                                     size.height);
   });
 }
 
