@@ -8,12 +8,11 @@
 
 #include "app/interaction_qt.h"
 #include "support/error_trap.h"
+#include "support/translate_form_qt.h"
 #include "support/translation.h"
 
 namespace vireo {
 namespace {
-
-QString Tr(const char* text) { return FromWindows1252(GetTranslation(text)); }
 
 // The boxes show the texts with plain line ends; the report keeps CR LF.
 QString ForBox(std::string_view text) {

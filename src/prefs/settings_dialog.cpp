@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include "support/error_trap.h"
+#include "support/translate_form_qt.h"
 #include "support/translation.h"
 
 namespace vireo {
@@ -22,8 +23,6 @@ namespace vireo {
 namespace {
 
 constexpr std::string_view kModule = "frmSettings";
-
-QString Tr(const char* text) { return QString::fromStdString(GetTranslation(text)); }
 
 QColor ToQColor(uint32_t bgr) {
   const ColourComponents c = SplitColour(bgr);

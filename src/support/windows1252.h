@@ -16,7 +16,15 @@ char32_t Windows1252ToUnicode(uint8_t code);
 // The Windows-1252 byte of a code point, or nullopt when it has none.
 std::optional<uint8_t> UnicodeToWindows1252(char32_t code_point);
 
-// Windows-1252 bytes as UTF-8, and back ('?' for characters without a byte).
+// Windows-1252 bytes as UTF-8.
 std::string Utf8FromWindows1252(std::string_view bytes);
+
+// UTF-8 as Windows-1252 bytes; nullopt when the text is not UTF-8 or holds a
+// character without a byte.
+std::optional<std::string> Windows1252FromUtf8(std::string_view utf8);
+
+// The next UTF-8 character at index (advancing it), or nullopt when the
+// bytes there are not valid UTF-8. index must be below bytes.size().
+std::optional<char32_t> NextUtf8(std::string_view bytes, size_t& index);
 
 }  // namespace vireo
