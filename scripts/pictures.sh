@@ -2,7 +2,8 @@
 # Sets up, builds, and writes pictures of the sample book as the reader shows
 # it at the default window size: the whole window, the first spread in
 # two-page and in single-page mode, the title page of a reader without a
-# book, the settings dialog, the about window and the error-report form.
+# book, the settings dialog, the font dialog, the about window and the
+# error-report form.
 #   scripts/pictures.sh [OUTPUT_FOLDER]   (default: build/pictures)
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -28,6 +29,11 @@ for dialog in about:about-window report:error-report; do
   QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_DIALOG="${dialog%%:*}" \
     VIREO_SCREENSHOT="$out/${dialog#*:}.png" "$work/Genesis" >/dev/null
 done
+# The font dialog (frmFontSel) with all installed fonts: a machine without the
+# recommended fonts has none to list.
+printf 'SHOWALLFONTS,True\r\n' >"$work/Vireo.ini"
+QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_DIALOG=font \
+  VIREO_SCREENSHOT="$out/font-dialog.png" "$work/Genesis" >/dev/null
 rm -f "$work/Vireo.ini" "$work/BookMarks.ini"
 "$work/vireo-tool" render "$work/Genesis" --page 1 -o "$out/first-spread.png"
 "$work/vireo-tool" render "$work/Genesis" --page 1 --single -o "$out/first-page-single.png"

@@ -14,6 +14,7 @@
 #include <string_view>
 
 #include "app/error_report_dialog.h"
+#include "app/font_selection_qt.h"
 #include "app/interaction_qt.h"
 #include "app/main_window.h"
 #include "app/page_setup_qt.h"
@@ -101,12 +102,18 @@ void PressKeys(vireo::MainWindow& window, std::string keys, std::function<void()
   });
 }
 
-// VIREO_DIALOG=about|report: the about window, or the error-report form
-// for an example error, opened over the window (the screenshot shows it).
+// VIREO_DIALOG=about|report|font: the about window, the error-report form
+// for an example error, or the font dialog, opened over the window (the screenshot shows it).
 QWidget* OpenDialog(vireo::MainWindow& window) {
   const char* which = std::getenv("VIREO_DIALOG");
   if (which == nullptr) return nullptr;
   if (std::string_view(which) == "about") return window.help().ShowAbout();
+  if (std::string_view(which) == "font") {
+    QWidget* dialog = vireo::MakeFontDialog(window.logic(), window.fonts(), &window).release();
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->show();
+    return dialog;
+  }
   if (std::string_view(which) != "report") return nullptr;
   auto* form = new vireo::fSHAREDErrorRpt(window.logic().context().location.folder,
                                           vireo::OpenAddress, &window);

@@ -16,6 +16,7 @@
 #include <QMimeData>
 #include <QUrl>
 
+#include "app/font_selection_qt.h"
 #include "app/key_map.h"
 #include "app/page_setup_qt.h"
 #include "nav/page_nav_dialog.h"
@@ -140,8 +141,7 @@ void MainWindow::ConnectPlannedItems() {
   const auto settings = [this] { ShowPageSetup(logic_, user_, this); };
   connect(bar_->cmdPageSetup, &QPushButton::clicked, this, settings);
   connect(menu_->Item("mnuColours"), &QAction::triggered, this, settings);
-  const auto font =
-      say("Change Font will let you choose the book's font. It is not available in this version.");
+  const auto font = [this] { ShowFontSelection(logic_, fonts_, this); };
   connect(bar_->Label1, &ClickLabel::clicked, this, font);
   connect(menu_->Item("mnuSelectFont"), &QAction::triggered, this, font);
   const auto language = say("Translations come with a later version; Vireo speaks English.");

@@ -12,6 +12,7 @@
 #include "app/interaction_qt.h"
 #include "app/options_menu_qt.h"
 #include "app/splash_window.h"
+#include "prefs/font_source_qt.h"
 
 namespace vireo {
 
@@ -30,6 +31,8 @@ class MainWindow : public QMainWindow, public MainWindowView {
   ControlBarWidget& bar() { return *bar_; }
   OptionsMenu& menu() { return *menu_; }
   HelpDialogs& help() { return *help_; }
+  // The installed fonts the font dialog offers.
+  const FontSource& fonts() const { return fonts_; }
   SplashWindow* splash() const { return splash_.get(); }
   const QString& exit_caption() const { return exit_caption_; }
   // The status the program ended with (EndProgram), -1 while running.
@@ -90,6 +93,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   };
 
   QtMessagePump pump_;
+  QtFontSource fonts_;
   UserInteraction& user_;
   PageDialogChooser page_dialog_{this};
   BookCanvasWidget* canvas_;
