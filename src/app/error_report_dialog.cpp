@@ -42,9 +42,9 @@ fSHAREDErrorRpt::fSHAREDErrorRpt(std::string folder, std::function<void(const QU
   setObjectName("fSHAREDErrorRpt");
   setWindowTitle(Tr("Vireo - Error Report"));
   auto* layout = new QVBoxLayout(this);
-  txtError = AddBox(layout, "txtError", "The error:");
-  txtLog = AddBox(layout, "txtLog", "The program's log:");
-  txtNote = AddBox(layout, "txtNote", "Your note:");
+  txtError = AddBox(layout, "txtError", Translatable("The error:"));
+  txtLog = AddBox(layout, "txtLog", Translatable("The program's log:"));
+  txtNote = AddBox(layout, "txtNote", Translatable("Your note:"));
   txtError->setReadOnly(true);
   txtError->setMaximumHeight(64);
   txtLog->setReadOnly(true);
@@ -52,10 +52,10 @@ fSHAREDErrorRpt::fSHAREDErrorRpt(std::string folder, std::function<void(const QU
   txtNote->setMaximumHeight(80);
   txtNote->setPlaceholderText(Tr("What were you doing when this happened?"));
   auto* buttons = new QHBoxLayout;
-  cmdViewReport = AddButton(buttons, "cmdViewReport", "View report");
-  cmdEmail = AddButton(buttons, "cmdEmail", "E-mail report");
+  cmdViewReport = AddButton(buttons, "cmdViewReport", Translatable("View report"));
+  cmdEmail = AddButton(buttons, "cmdEmail", Translatable("E-mail report"));
   buttons->addStretch();
-  cmdClose = AddButton(buttons, "cmdClose", "Close");
+  cmdClose = AddButton(buttons, "cmdClose", Translatable("Close"));
   layout->addLayout(buttons);
   connect(cmdViewReport, &QPushButton::clicked, this, &fSHAREDErrorRpt::ViewReport);
   connect(cmdEmail, &QPushButton::clicked, this, &fSHAREDErrorRpt::Email);

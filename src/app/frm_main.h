@@ -3,6 +3,7 @@
 #include "app/book_loader.h"
 #include "app/book_session.h"
 #include "app/book_spread.h"
+#include "app/language_commands.h"
 #include "app/program_lifecycle.h"
 #include "app/reader_commands.h"
 #include "app/reader_context.h"
@@ -21,6 +22,7 @@ namespace vireo {
 //   commands()    keys, menus, the mouse on the pages, dropped files
 //   preferences_host() the preferences' effects on the window
 //   lifecycle()   start-up and shutdown
+//   languages()   the reader's language
 // frmMain owns the shared state and the rooms and wires them together. The
 // window system is reached only through MainWindowView and PageBuffers.
 class frmMain {
@@ -36,6 +38,7 @@ class frmMain {
   ReaderCommands& commands() { return commands_; }
   WindowPreferences& preferences_host() { return preferences_; }
   ProgramLifecycle& lifecycle() { return lifecycle_; }
+  LanguageCommands& languages() { return languages_; }
 
   // The shared state, for the window and for tests.
   const ReaderContext& context() const { return context_; }
@@ -56,6 +59,7 @@ class frmMain {
   SearchCommands search_;
   ViewCommands view_commands_;
   WindowPreferences preferences_;
+  LanguageCommands languages_;
   ProgramLifecycle lifecycle_;
   ReaderCommands commands_;
 };

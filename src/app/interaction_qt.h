@@ -57,5 +57,4 @@ void OpenAddress(const QUrl& address);
 // True when VIREO_NONINTERACTIVE is set to anything but "" or "0".
 bool NonInteractiveMode();
 
-
 }  // namespace vireo

@@ -18,6 +18,7 @@
 
 #include "app/font_selection_qt.h"
 #include "app/key_map.h"
+#include "app/language_window_qt.h"
 #include "app/page_setup_qt.h"
 #include "nav/page_nav_dialog.h"
 #include "nav/page_nav_mouse.h"
@@ -25,6 +26,7 @@
 #include "support/logging.h"
 #include "support/maker.h"
 #include "support/platform.h"
+#include "support/translation.h"
 
 namespace vireo {
 namespace {
@@ -92,6 +94,9 @@ void MainWindow::ConnectCommands() {
   on(bar_->lblSearch, &ClickLabel::clicked, [&search] { search.GetSearchTerm(); });
   on(bar_->lblPageNum, &ClickLabel::clicked, [this] { logic_.commands().GotoPage(); });
   on(bar_->lblFontSize, &ClickLabel::clicked, [&view] { view.GetNewFontSize(); });
+  const auto choose = [this](int index) { logic_.languages().ChooseLanguage(index); };
+  on(canvas_, &BookCanvasWidget::languageChosen, choose);
+  on(menu_, &OptionsMenu::languageChosen, choose);
 }
 
 void MainWindow::ConnectMenu() {
@@ -132,24 +137,23 @@ void MainWindow::ConnectPlannedItems() {
   connect(bar_->cmdAbout, &QPushButton::clicked, this, about);
   connect(menu_->Item("mnuAbout"), &QAction::triggered, this, about);
   connect(menu_->Item("mnuPrint"), &QAction::triggered, this,
-          say("Print will print the pages on show. It is not available in this version."));
+          say(Translatable(
+              "Print will print the pages on show. It is not available in this version.")));
   connect(menu_->Item("mnuSave"), &QAction::triggered, this,
-          say("Export will save the book as a text file. It is not available in this version."));
+          say(Translatable(
+              "Export will save the book as a text file. It is not available in this version.")));
   connect(menu_->Item("mnuEbook"), &QAction::triggered, this,
-          say("Create ebook will make a self-contained ebook from a text file. Until it is "
-              "here, use vireo-tool make."));
+          say(Translatable("Create ebook will make a self-contained ebook from a text file. "
+                           "Until it is here, use vireo-tool make.")));
   const auto settings = [this] { ShowPageSetup(logic_, user_, this); };
   connect(bar_->cmdPageSetup, &QPushButton::clicked, this, settings);
   connect(menu_->Item("mnuColours"), &QAction::triggered, this, settings);
   const auto font = [this] { ShowFontSelection(logic_, fonts_, this); };
   connect(bar_->Label1, &ClickLabel::clicked, this, font);
   connect(menu_->Item("mnuSelectFont"), &QAction::triggered, this, font);
-  const auto language = say("Translations come with a later version; Vireo speaks English.");
-  connect(menu_->Item("mnuSetLang0"), &QAction::triggered, this, language);
-  connect(menu_->Item("mnuSetLang1"), &QAction::triggered, this, language);
 }
 
-void MainWindow::Say(const std::string& text) { user_.ShowMessage(text, "Vireo"); }
+void MainWindow::Say(const std::string& text) { user_.ShowMessage(GetTranslation(text), "Vireo"); }
 
 void MainWindow::OpenAddress(const QString& address) { vireo::OpenAddress(QUrl(address)); }
 
@@ -301,7 +305,6 @@ void MainWindow::SetBarLabel(BarLabel label, std::string_view text, uint32_t col
   control->setPalette(palette);
 }
 
-
 // VIREO_TIMING=1: each milestone is written to standard error with the wall
 // clock in milliseconds since the epoch, so that a script that noted when it
 // started the program can tell how long the milestone took. Frames waiting
@@ -321,6 +324,16 @@ void MainWindow::SetMenuTick(std::string_view item, bool ticked) {
   if (QAction* action = menu_->Item(QString::fromUtf8(item.data(), item.size()))) {
     action->setChecked(ticked);
   }
+}
+
+void MainWindow::ShowLanguages(const std::vector<std::string>& names, int chosen,
+                               std::string_view code) {
+  QStringList shown;
+  for (const std::string& name : names) shown.push_back(FromWindows1252(name));
+  canvas_->SetLanguages(shown, chosen);
+  menu_->SetLanguages(shown, chosen);
+  LoadQtTranslation(code, qt_translator_);
+  TranslateOpenForms();
 }
 
 void MainWindow::SetMenuEnabled(std::string_view item, bool enabled) {

@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QMainWindow>
+#include <QTranslator>
 #include <array>
 #include <memory>
 
@@ -62,6 +63,8 @@ class MainWindow : public QMainWindow, public MainWindowView {
   void ShowContextMenu() override;
   PageChooser& PageDialog() override;
   void Milestone(std::string_view what) override;
+  void ShowLanguages(const std::vector<std::string>& names, int chosen,
+                     std::string_view code) override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -103,6 +106,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   frmMain logic_;
   HelpDialogs* help_;
   std::unique_ptr<SplashWindow> splash_;
+  std::unique_ptr<QTranslator> qt_translator_;  // Qt's own texts in the chosen language
   QString exit_caption_;
   int end_status_ = -1;
 };

@@ -34,12 +34,14 @@ void StartupStep(auto&& step) {
 }  // namespace
 
 ProgramLifecycle::ProgramLifecycle(ReaderContext& context, BookSpread& spread, BookSession& session,
-                                   BookLoader& loader, WindowPreferences& preferences)
+                                   BookLoader& loader, WindowPreferences& preferences,
+                                   LanguageCommands& languages)
     : context_(context),
       spread_(spread),
       session_(session),
       loader_(loader),
-      preferences_(preferences) {}
+      preferences_(preferences),
+      languages_(languages) {}
 
 std::string ProgramLifecycle::ExitCaption() { return "Exit Vireo " + AppVersion(); }
 
@@ -84,13 +86,15 @@ void ProgramLifecycle::RunStartupSteps() {
     pump.Yield();
   });
   StartupStep([&] {
-    view.ShowProgress("Loading Settings");
+    view.ShowProgress(GetTranslation("Loading Settings"));
     pump.Yield();
     LoadSettings(settings_path_);
     SetBookmarksFolder(folder);
   });
-  // FIXME: the language list and menu are filled once translation files land.
-  StartupStep([&] { view.ShowProgress("Setting up"); });
+  StartupStep([&] {
+    view.ShowProgress(GetTranslation("Setting up"));
+    languages_.FillLanguages();
+  });
   StartupStep([&] {
     LogAction(GetTranslation("Registering File Extensions"));
     RegisterFileTypes(context_.location.executable_path);
@@ -102,10 +106,10 @@ void ProgramLifecycle::RunStartupSteps() {
   });
   StartupStep([&] {
     LogAction("Scanning fonts");
-    view.ShowProgress("Scanning fonts...");
+    view.ShowProgress(GetTranslation("Scanning fonts..."));
   });
   // FIXME: the image store is created here once pictures in books land.
-  StartupStep([&] { view.ShowProgress("Setting up image containers..."); });
+  StartupStep([&] { view.ShowProgress(GetTranslation("Setting up image containers...")); });
   StartupStep([&] { program_folder_ = ProgramFolderString(folder); });
   StartupStep([&] { ApplyPreferences(); });
   StartupStep([&] {
@@ -118,7 +122,7 @@ void ProgramLifecycle::RunStartupSteps() {
   });
   StartupStep([&] {
     LogAction("Attempting to load Vireo" + std::string(kExecutableSuffix));
-    view.ShowProgress("Loading book");
+    view.ShowProgress(GetTranslation("Loading book"));
     pump.Yield();
   });
   StartupStep([&] {
@@ -137,7 +141,7 @@ void ProgramLifecycle::RunStartupSteps() {
 }
 
 void ProgramLifecycle::ApplyPreferences() {
-  context_.view.ShowProgress("Reading settings");
+  context_.view.ShowProgress(GetTranslation("Reading settings"));
   LogAction("Reading settings");
   ReadSettings(context_.prefs, preferences_,
                {context_.system_colours.window, context_.system_colours.window_text});

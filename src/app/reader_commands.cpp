@@ -20,10 +20,10 @@ constexpr std::string_view kModule = "frmMain";
 constexpr std::string_view kDroppableTypes[] = {".TXT", ".BRN", ".BFL", ".RTF",
                                                 ".TEX", ".VRH", ".VRT", ".HTM"};
 
-constexpr std::string_view kHelpText =
+constexpr std::string_view kHelpText = Translatable(
     "Vireo keys: Space, Right or M next page; Shift+Space, Left or Z previous page; "
     "1 one page; 2 two pages; G go to page; B control bar; S search; N next match; "
-    "P previous match; Q quit. Right-click a page for the menu.";
+    "P previous match; Q quit. Right-click a page for the menu.");
 
 }  // namespace
 
@@ -193,7 +193,8 @@ void ReaderCommands::mnuEraseBookmarks_Click() {
 }
 
 void ReaderCommands::mnuHelp_Click() {
-  Trap("sub mnuhelp_click", kModule, [&] { context_.user.ShowMessage(kHelpText, "Vireo"); });
+  Trap("sub mnuhelp_click", kModule,
+       [&] { context_.user.ShowMessage(GetTranslation(kHelpText), "Vireo"); });
 }
 
 }  // namespace vireo

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "support/translate_form_qt.h"
+#include "support/translation.h"
 #include "support/windows1252_qt.h"
 
 namespace vireo {
@@ -60,19 +61,20 @@ frmFontSel::frmFontSel(const FontSource& fonts, const std::string& current_font,
                        uint32_t paper, QWidget* parent)
     : QDialog(parent), choice_(fonts, current_font) {
   setObjectName(QStringLiteral("frmFontSel"));
-  setWindowTitle("Change Font");
+  setWindowTitle(Translatable("Change Font"));
   setModal(true);
   notice_ = Named(new QLabel, "lblNotice");
   notice_->setWordWrap(true);
   list_ = Named(new QListWidget, "lstFonts");
-  show_recommended_ = Named(new QRadioButton("Recommended fonts"), "optShowRecommended");
-  show_all_ = Named(new QRadioButton("Show all fonts"), "optShowAll");
+  show_recommended_ =
+      Named(new QRadioButton(Translatable("Recommended fonts")), "optShowRecommended");
+  show_all_ = Named(new QRadioButton(Translatable("Show all fonts")), "optShowAll");
   preview_ = new FontPreviewBox(ink, paper);
   preview_->setObjectName("PicPreview");
-  auto* rescan = Named(new QPushButton("Rescan"), "cmdRescan");
-  rescan->setToolTip("Look again for the recommended fonts on this computer");
-  auto* ok = Named(new QPushButton("OK"), "cmdOK");
-  auto* cancel = Named(new QPushButton("Cancel"), "cmdCancel");
+  auto* rescan = Named(new QPushButton(Translatable("Rescan")), "cmdRescan");
+  rescan->setToolTip(Translatable("Look again for the recommended fonts on this computer"));
+  auto* ok = Named(new QPushButton(Translatable("OK")), "cmdOK");
+  auto* cancel = Named(new QPushButton(Translatable("Cancel")), "cmdCancel");
   ok->setDefault(true);
 
   auto* options = new QHBoxLayout;
