@@ -3,7 +3,8 @@
 # it at the default window size: the whole window, the first spread in
 # two-page and in single-page mode, the title page of a reader without a
 # book, the settings dialog, the font dialog, the about window and the
-# error-report form.
+# error-report form; the title page, the options menu and the settings dialog
+# in Spanish and in German.
 #   scripts/pictures.sh [OUTPUT_FOLDER]   (default: build/pictures)
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -17,6 +18,7 @@ out=$(cd "$out" && pwd)  # the reader runs from another folder
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cp "$bin/vireo-tool" "$bin/Vireo" "$bin/Genesis" "$bin/libvHtml.so" "$bin"/paper*.jpg "$work/"
+cp -r "$bin/languages" "$work/"
 export XDG_RUNTIME_DIR="$work" XDG_DATA_HOME="$work/xdg"
 QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_SCREENSHOT="$out/main-window.png" \
   "$work/Genesis" >/dev/null
@@ -38,3 +40,15 @@ rm -f "$work/Vireo.ini" "$work/BookMarks.ini"
 "$work/vireo-tool" render "$work/Genesis" --page 1 -o "$out/first-spread.png"
 "$work/vireo-tool" render "$work/Genesis" --page 1 --single -o "$out/first-page-single.png"
 "$work/vireo-tool" render "$work/Vireo" --page 1 -o "$out/title-page.png" 2>/dev/null
+# The title page (the reader without a book), the options menu and the
+# settings dialog in each shipped language, as the remembered choice.
+for language in es de; do
+  printf 'LANGUAGE,%s\r\n' "$language" >"$work/Vireo.ini"
+  QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_SCREENSHOT="$out/title-page-$language.png" \
+    "$work/Vireo" >/dev/null 2>&1
+  QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_DIALOG=menu \
+    VIREO_SCREENSHOT="$out/options-menu-$language.png" "$work/Genesis" >/dev/null
+  QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 \
+    VIREO_SETTINGS_SCREENSHOT="$out/settings-dialog-$language.png" "$work/Genesis" >/dev/null
+done
+rm -f "$work/Vireo.ini" "$work/BookMarks.ini"

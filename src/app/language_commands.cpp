@@ -1,5 +1,6 @@
 #include "app/language_commands.h"
 
+#include "app/program_lifecycle.h"
 #include "prefs/settings_get_set.h"
 #include "support/error_trap.h"
 #include "support/translation.h"
@@ -34,6 +35,7 @@ void LanguageCommands::ChooseLanguage(int index) {
     Load(index);
     sset(kLanguageKey, index == 0 ? std::string() : languages_[index - 1].code);
     ShowChoice();
+    if (!context_.busy) context_.view.SetExitCaption(ProgramLifecycle::ExitCaption());
     if (!context_.book.loaded && !context_.busy) spread_.plotter().DrawTitlePage();
   });
 }

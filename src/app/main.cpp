@@ -102,12 +102,17 @@ void PressKeys(vireo::MainWindow& window, std::string keys, std::function<void()
   });
 }
 
-// VIREO_DIALOG=about|report|font: the about window, the error-report form
-// for an example error, or the font dialog, opened over the window (the screenshot shows it).
+// VIREO_DIALOG=about|report|font|menu: the about window, the error-report
+// form for an example error, the font dialog or the options menu, opened over the window (the
+// screenshot shows it).
 QWidget* OpenDialog(vireo::MainWindow& window) {
   const char* which = std::getenv("VIREO_DIALOG");
   if (which == nullptr) return nullptr;
   if (std::string_view(which) == "about") return window.help().ShowAbout();
+  if (std::string_view(which) == "menu") {
+    window.menu().popup(window.mapToGlobal(QPoint(40, 40)));
+    return &window.menu();
+  }
   if (std::string_view(which) == "font") {
     QWidget* dialog = vireo::MakeFontDialog(window.logic(), window.fonts(), &window).release();
     dialog->setAttribute(Qt::WA_DeleteOnClose);
@@ -142,6 +147,10 @@ void ScheduleScreenshot(vireo::MainWindow& window, const char* variable,
 // VIREO_QUIT_AFTER_MS=N: quit N ms after start-up. All count from the end
 // of the VIREO_KEYS.
 void ScheduleAutomation(vireo::MainWindow& window, vireo::UserInteraction& user) {
+  // VIREO_MENU=NAME: the options menu's item NAME is chosen first.
+  if (const char* item = std::getenv("VIREO_MENU")) {
+    if (QAction* action = window.menu().Item(QString::fromLatin1(item))) action->trigger();
+  }
   if (std::getenv("VIREO_SCREENSHOT") != nullptr) {
     QPointer<QWidget> dialog = OpenDialog(window);
     ScheduleScreenshot(window, "VIREO_SCREENSHOT", [&window, dialog](const QString& path) {

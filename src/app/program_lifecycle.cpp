@@ -43,7 +43,9 @@ ProgramLifecycle::ProgramLifecycle(ReaderContext& context, BookSpread& spread, B
       preferences_(preferences),
       languages_(languages) {}
 
-std::string ProgramLifecycle::ExitCaption() { return "Exit Vireo " + AppVersion(); }
+std::string ProgramLifecycle::ExitCaption() {
+  return GetTranslation("Exit Vireo") + " " + AppVersion();
+}
 
 std::string ProgramLifecycle::ProgramFolderString(const std::string& folder) {
   if (!folder.empty() && (folder.back() == '\\' || folder.back() == '/')) return "C:";

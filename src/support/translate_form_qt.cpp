@@ -34,7 +34,9 @@ void TranslateText(QObject* control, const char* property, const QString& shown,
                    const std::function<void(const QString&)>& set) {
   if (shown.trimmed().isEmpty()) return;
   const QString english = EnglishOf(control, property, shown);
-  const QString translated = FromWindows1252(GetTranslation(ToWindows1252(english)));
+  const std::string key = ToWindows1252(english);
+  if (FromWindows1252(key) != english) return;  // not an English text of ours ("A\u2212")
+  const QString translated = FromWindows1252(GetTranslation(key));
   control->setProperty((QByteArray("vireoEnglish_") + property).constData(), english);
   control->setProperty((QByteArray("vireoShown_") + property).constData(), translated);
   if (translated != shown) set(translated);
