@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "app/control_bar_widget.h"
+#include "support/translation.h"
 
 namespace vireo {
 namespace {
@@ -26,12 +27,15 @@ QImage BlankBuffer(double width_twips, double height_twips, qreal ratio) {
 BookCanvasWidget::BookCanvasWidget(QWidget* parent)
     : QWidget(parent),
       lstLanguages_(new QListWidget(this)),
-      lblLanguages_(new QLabel("Language:", this)) {
+      lblLanguages_(new QLabel(Translatable("Language:"), this)) {
   setObjectName("BookCanvas");
   lstLanguages_->setObjectName("lstLanguages");
   lstLanguages_->addItem("English");
   lstLanguages_->setFixedSize(110, 36);
   lblLanguages_->setObjectName("lblLanguages");
+  connect(lstLanguages_, &QListWidget::currentRowChanged, this, [this](int row) {
+    if (row >= 0) emit languageChosen(row);
+  });
   setMouseTracking(false);
   for (int box = 0; box < 8; ++box) {
     images_[box] = BlankBuffer(4500, 6000, 1);
@@ -43,6 +47,13 @@ BookCanvasWidget::BookCanvasWidget(QWidget* parent)
 }
 
 BookCanvasWidget::~BookCanvasWidget() = default;
+
+void BookCanvasWidget::SetLanguages(const QStringList& names, int chosen) {
+  const QSignalBlocker quiet(lstLanguages_);
+  lstLanguages_->clear();
+  lstLanguages_->addItems(names);
+  lstLanguages_->setCurrentRow(chosen);
+}
 
 void BookCanvasWidget::ResizeBuffers(double width_twips, double height_twips) {
   const qreal ratio = devicePixelRatioF();

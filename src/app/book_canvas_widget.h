@@ -75,7 +75,13 @@ class BookCanvasWidget : public QWidget, public PageBuffers {
   // The rectangle of a page frame in widget pixels.
   QRectF FrameRect(int frame) const;
 
+  // lstLanguages: the languages offered, the chosen one selected.
+  void SetLanguages(const QStringList& names, int chosen);
+  QListWidget* languageList() const { return lstLanguages_; }
+
  signals:
+  // The person chose entry index of lstLanguages.
+  void languageChosen(int index);
   // A mouse press, move or release on page 0 or 1 (x, y in twips on the page).
   void pageMouse(int page, QEvent::Type type, Qt::MouseButton button,
                  Qt::KeyboardModifiers modifiers, double x, double y);

@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include "render/qt_surface_qt.h"
+#include "support/translation.h"
 
 namespace vireo {
 
@@ -31,22 +32,22 @@ void ClickLabel::mouseReleaseEvent(QMouseEvent* event) {
 
 ControlBarWidget::ControlBarWidget(QWidget* parent) : QWidget(parent) {
   setObjectName("Picture1");
-  setToolTip(
+  setToolTip(Translatable(
       "Hides the menu bar. Double-click page border to bring it back, or use the right-click "
-      "menu.");
+      "menu."));
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(4, 2, 4, 2);
   grid->setHorizontalSpacing(6);
   grid->setVerticalSpacing(2);
 
-  cmdAbout = AddButton("cmdAbout", "About", "");
-  cmdPageSetup = AddButton("cmdPageSetup", "Settings", "Page Settings");
-  cmdLoad = AddButton("cmdLoad", "Load", "");
-  cmdExit = AddButton("cmdExit", "Exit", "");
+  cmdAbout = AddButton("cmdAbout", Translatable("About"), "");
+  cmdPageSetup = AddButton("cmdPageSetup", Translatable("Settings"), Translatable("Page Settings"));
+  cmdLoad = AddButton("cmdLoad", Translatable("Load"), "");
+  cmdExit = AddButton("cmdExit", Translatable("Exit"), "");
   cmdSmallerFont = AddButton("cmdSmallerFont", QString::fromUtf8("A\u2212"), "");
   cmdBiggerFont = AddButton("cmdBiggerFont", "A+", "");
-  cmdFindNext = AddButton("cmdFindNext", "Next Match", "");
-  cmdFindPrev = AddButton("cmdFindPrev", "Previous Match", "");
+  cmdFindNext = AddButton("cmdFindNext", Translatable("Next Match"), "");
+  cmdFindPrev = AddButton("cmdFindPrev", Translatable("Previous Match"), "");
   QFont small = cmdSmallerFont->font();
   small.setPointSizeF(small.pointSizeF() * 0.8);
   cmdSmallerFont->setFont(small);
@@ -54,9 +55,10 @@ ControlBarWidget::ControlBarWidget(QWidget* parent) : QWidget(parent) {
   big.setBold(true);
   cmdBiggerFont->setFont(big);
 
-  Label1 = AddLabel("Label1", "Font:", "Click here to change the font");
-  lblFontSize = AddLabel("lblFontSize", "10", "Click here to enter your font size");
-  lblSearch = AddLabel("lblSearch", "Search...", "Click here to enter your search text");
+  Label1 = AddLabel("Label1", Translatable("Font:"), Translatable("Click here to change the font"));
+  lblFontSize = AddLabel("lblFontSize", "10", Translatable("Click here to enter your font size"));
+  lblSearch = AddLabel("lblSearch", Translatable("Search..."),
+                       Translatable("Click here to enter your search text"));
   lblPageNum = AddLabel("lblPageNum", "", "Click here to choose your page");
   Shape1 = new LampWidget(this);
   Shape1->setObjectName("Shape1");

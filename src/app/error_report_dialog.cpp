@@ -8,12 +8,11 @@
 
 #include "app/interaction_qt.h"
 #include "support/error_trap.h"
+#include "support/translate_form_qt.h"
 #include "support/translation.h"
 
 namespace vireo {
 namespace {
-
-QString Tr(const char* text) { return FromWindows1252(GetTranslation(text)); }
 
 // The boxes show the texts with plain line ends; the report keeps CR LF.
 QString ForBox(std::string_view text) {
@@ -43,9 +42,9 @@ fSHAREDErrorRpt::fSHAREDErrorRpt(std::string folder, std::function<void(const QU
   setObjectName("fSHAREDErrorRpt");
   setWindowTitle(Tr("Vireo - Error Report"));
   auto* layout = new QVBoxLayout(this);
-  txtError = AddBox(layout, "txtError", "The error:");
-  txtLog = AddBox(layout, "txtLog", "The program's log:");
-  txtNote = AddBox(layout, "txtNote", "Your note:");
+  txtError = AddBox(layout, "txtError", Translatable("The error:"));
+  txtLog = AddBox(layout, "txtLog", Translatable("The program's log:"));
+  txtNote = AddBox(layout, "txtNote", Translatable("Your note:"));
   txtError->setReadOnly(true);
   txtError->setMaximumHeight(64);
   txtLog->setReadOnly(true);
@@ -53,10 +52,10 @@ fSHAREDErrorRpt::fSHAREDErrorRpt(std::string folder, std::function<void(const QU
   txtNote->setMaximumHeight(80);
   txtNote->setPlaceholderText(Tr("What were you doing when this happened?"));
   auto* buttons = new QHBoxLayout;
-  cmdViewReport = AddButton(buttons, "cmdViewReport", "View report");
-  cmdEmail = AddButton(buttons, "cmdEmail", "E-mail report");
+  cmdViewReport = AddButton(buttons, "cmdViewReport", Translatable("View report"));
+  cmdEmail = AddButton(buttons, "cmdEmail", Translatable("E-mail report"));
   buttons->addStretch();
-  cmdClose = AddButton(buttons, "cmdClose", "Close");
+  cmdClose = AddButton(buttons, "cmdClose", Translatable("Close"));
   layout->addLayout(buttons);
   connect(cmdViewReport, &QPushButton::clicked, this, &fSHAREDErrorRpt::ViewReport);
   connect(cmdEmail, &QPushButton::clicked, this, &fSHAREDErrorRpt::Email);

@@ -11,7 +11,8 @@ frmMain::frmMain(MainWindowView& view, PageBuffers& buffers, UserInteraction& us
       search_(context_, spread_, session_),
       view_commands_(context_, spread_, session_),
       preferences_(context_, spread_),
-      lifecycle_(context_, spread_, session_, loader_, preferences_),
+      languages_(context_, spread_),
+      lifecycle_(context_, spread_, session_, loader_, preferences_, languages_),
       services_(context_, spread_, session_),
       commands_(context_, spread_, session_, loader_, search_, view_commands_, preferences_,
                 lifecycle_, services_.read_aloud()) {}

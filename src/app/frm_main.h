@@ -3,6 +3,7 @@
 #include "app/book_loader.h"
 #include "app/book_session.h"
 #include "app/book_spread.h"
+#include "app/language_commands.h"
 #include "app/program_lifecycle.h"
 #include "app/reader_commands.h"
 #include "app/reader_context.h"
@@ -23,6 +24,7 @@ namespace vireo {
 //   preferences_host() the preferences' effects on the window
 //   lifecycle()   start-up and shutdown
 //   services()    print, export, copy page, reading aloud, web pages
+//   languages()   the reader's language
 // frmMain owns the shared state and the rooms and wires them together. The
 // window system is reached only through MainWindowView and PageBuffers.
 class frmMain {
@@ -39,6 +41,7 @@ class frmMain {
   WindowPreferences& preferences_host() { return preferences_; }
   ProgramLifecycle& lifecycle() { return lifecycle_; }
   ServiceCommands& services() { return services_; }
+  LanguageCommands& languages() { return languages_; }
 
   // The shared state, for the window and for tests.
   const ReaderContext& context() const { return context_; }
@@ -59,6 +62,7 @@ class frmMain {
   SearchCommands search_;
   ViewCommands view_commands_;
   WindowPreferences preferences_;
+  LanguageCommands languages_;
   ProgramLifecycle lifecycle_;
   ServiceCommands services_;
   ReaderCommands commands_;

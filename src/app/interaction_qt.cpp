@@ -25,23 +25,6 @@ void WriteToStderr(std::string_view kind, std::string_view title, std::string_vi
 
 }  // namespace
 
-QString FromWindows1252(std::string_view bytes) {
-  QString text;
-  text.reserve(static_cast<qsizetype>(bytes.size()));
-  for (char byte : bytes) {
-    text.append(QChar(static_cast<char16_t>(Windows1252ToUnicode(static_cast<uint8_t>(byte)))));
-  }
-  return text;
-}
-
-std::string ToWindows1252(const QString& text) {
-  std::string bytes;
-  bytes.reserve(static_cast<size_t>(text.size()));
-  for (QChar c : text)
-    bytes.push_back(static_cast<char>(UnicodeToWindows1252(c.unicode()).value_or('?')));
-  return bytes;
-}
-
 bool NonInteractiveMode() {
   const char* value = std::getenv("VIREO_NONINTERACTIVE");
   return value != nullptr && *value != '\0' && std::string_view(value) != "0";

@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "support/user_interaction.h"
+#include "support/windows1252_qt.h"
 
 namespace vireo {
 
@@ -55,9 +56,5 @@ void OpenAddress(const QUrl& address);
 
 // True when VIREO_NONINTERACTIVE is set to anything but "" or "0".
 bool NonInteractiveMode();
-
-// Book text is Windows-1252 bytes; Qt wants Unicode.
-QString FromWindows1252(std::string_view bytes);
-std::string ToWindows1252(const QString& text);
 
 }  // namespace vireo

@@ -12,9 +12,11 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "app/create_ebook_dialog.h"
 #include "app/error_report_dialog.h"
+#include "app/font_selection_qt.h"
 #include "app/interaction_qt.h"
 #include "app/main_window.h"
 #include "app/open_book_dialog.h"
@@ -114,45 +116,62 @@ void PressKeys(vireo::MainWindow& window, std::string keys, std::function<void()
   });
 }
 
-// VIREO_DIALOG=about|report|ebook|help|print-preview: the about window, the
-// error-report form for an example error, the Create ebook dialog, the
-// manual, or the print preview of the first pages, opened over the window
-// (the screenshot shows it).
-QWidget* OpenDialog(vireo::MainWindow& window) {
-  const char* which = std::getenv("VIREO_DIALOG");
-  if (which == nullptr) return nullptr;
-  if (std::string_view(which) == "about") return window.help().ShowAbout();
-  if (std::string_view(which) == "help") {
-    window.logic().commands().mnuHelp_Click();
-    return window.services().help_window();
-  }
-  if (std::string_view(which) == "print-preview") {
-    QWidget* preview = window.services().printer().Preview(1, 2);
-    preview->setAttribute(Qt::WA_DeleteOnClose);
-    preview->resize(900, 700);
-    preview->show();
-    return preview;
-  }
-  if (std::string_view(which) == "ebook") {
-    vireo::frmMakeEbook* dialog =
-        vireo::MakeCreateEbookDialog(window.logic(), window.user(), &window).release();
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->show();
-    return dialog;
-  }
-  if (std::string_view(which) == "open") {
-    QFileDialog* dialog = vireo::NewOpenBookDialog(&window, window.logic().context().prefs.path);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->show();
-    return dialog;
-  }
-  if (std::string_view(which) != "report") return nullptr;
+// Shows a dialog made for the screenshot over the window, gone when closed.
+QWidget* ShowOver(QWidget* dialog) {
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->show();
+  return dialog;
+}
+
+QWidget* ShowErrorReport(vireo::MainWindow& window) {
   auto* form = new vireo::fSHAREDErrorRpt(window.logic().context().location.StateFolder(),
                                           vireo::OpenAddress, &window);
-  form->setAttribute(Qt::WA_DeleteOnClose);
   form->ShowError("Subscript out of range in sub showpage(9) of module frmMain");
-  form->show();
-  return form;
+  return ShowOver(form);
+}
+
+// VIREO_DIALOG=NAME: a dialog or window opened over the main window (the
+// screenshot shows it); nullptr for an unknown name.
+QWidget* OpenDialog(vireo::MainWindow& window) {
+  using Opener = QWidget* (*)(vireo::MainWindow&);
+  static constexpr std::pair<std::string_view, Opener> kDialogs[] = {
+      {"about", [](vireo::MainWindow& w) -> QWidget* { return w.help().ShowAbout(); }},
+      {"report", ShowErrorReport},
+      {"ebook",
+       [](vireo::MainWindow& w) {
+         return ShowOver(vireo::MakeCreateEbookDialog(w.logic(), w.user(), &w).release());
+       }},
+      {"open",
+       [](vireo::MainWindow& w) {
+         return ShowOver(vireo::NewOpenBookDialog(&w, w.logic().context().prefs.path));
+       }},
+      {"font",
+       [](vireo::MainWindow& w) {
+         return ShowOver(vireo::MakeFontDialog(w.logic(), w.fonts(), &w).release());
+       }},
+      {"menu",
+       [](vireo::MainWindow& w) -> QWidget* {
+         w.menu().popup(w.mapToGlobal(QPoint(40, 40)));
+         return &w.menu();
+       }},
+      {"help",
+       [](vireo::MainWindow& w) -> QWidget* {
+         w.logic().commands().mnuHelp_Click();
+         return w.services().help_window();
+       }},
+      {"print-preview",
+       [](vireo::MainWindow& w) {
+         QWidget* preview = w.services().printer().Preview(1, 2);
+         preview->resize(900, 700);
+         return ShowOver(preview);
+       }},
+  };
+  const char* which = std::getenv("VIREO_DIALOG");
+  if (which == nullptr) return nullptr;
+  for (const auto& [name, open] : kDialogs) {
+    if (name == which) return open(window);
+  }
+  return nullptr;
 }
 
 // Once started, save a picture (save) at the file the environment variable

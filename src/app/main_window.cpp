@@ -18,7 +18,9 @@
 #include <QWheelEvent>
 
 #include "app/create_ebook_dialog.h"
+#include "app/font_selection_qt.h"
 #include "app/key_map.h"
+#include "app/language_window_qt.h"
 #include "app/open_book_dialog.h"
 #include "app/page_setup_qt.h"
 #include "nav/page_nav_dialog.h"
@@ -27,6 +29,7 @@
 #include "support/logging.h"
 #include "support/maker.h"
 #include "support/platform.h"
+#include "support/translation.h"
 
 namespace vireo {
 namespace {
@@ -60,7 +63,7 @@ MainWindow::MainWindow(UserInteraction& user, ProgramLocation location)
   setAcceptDrops(true);
   ConnectCommands();
   ConnectMenu();
-  ConnectPlannedItems();
+  ConnectDialogs();
   ConnectServices();
 }
 
@@ -91,6 +94,9 @@ void MainWindow::ConnectCommands() {
   on(bar_->lblSearch, &ClickLabel::clicked, [&search] { search.GetSearchTerm(); });
   on(bar_->lblPageNum, &ClickLabel::clicked, [this] { logic_.commands().GotoPage(); });
   on(bar_->lblFontSize, &ClickLabel::clicked, [&view] { view.GetNewFontSize(); });
+  const auto choose = [this](int index) { logic_.languages().ChooseLanguage(index); };
+  on(canvas_, &BookCanvasWidget::languageChosen, choose);
+  on(menu_, &OptionsMenu::languageChosen, choose);
 }
 
 void MainWindow::ConnectMenu() {
@@ -122,9 +128,8 @@ void MainWindow::ConnectMenu() {
   on("mnuGutenberg", [this] { OpenAddress("https://www.gutenberg.org"); });
 }
 
-// Menu items and buttons whose features come in later versions say so.
-void MainWindow::ConnectPlannedItems() {
-  const auto say = [this](const char* text) { return [this, text] { Say(text); }; };
+// Menu items and buttons that open the window's own dialogs.
+void MainWindow::ConnectDialogs() {
   const auto about = [this] { help_->ShowAbout(); };
   connect(bar_->cmdAbout, &QPushButton::clicked, this, about);
   connect(menu_->Item("mnuAbout"), &QAction::triggered, this, about);
@@ -133,13 +138,9 @@ void MainWindow::ConnectPlannedItems() {
   const auto settings = [this] { ShowPageSetup(logic_, user_, this); };
   connect(bar_->cmdPageSetup, &QPushButton::clicked, this, settings);
   connect(menu_->Item("mnuColours"), &QAction::triggered, this, settings);
-  const auto font =
-      say("Change Font will let you choose the book's font. It is not available in this version.");
+  const auto font = [this] { ShowFontSelection(logic_, fonts_, this); };
   connect(bar_->Label1, &ClickLabel::clicked, this, font);
   connect(menu_->Item("mnuSelectFont"), &QAction::triggered, this, font);
-  const auto language = say("Translations come with a later version; Vireo speaks English.");
-  connect(menu_->Item("mnuSetLang0"), &QAction::triggered, this, language);
-  connect(menu_->Item("mnuSetLang1"), &QAction::triggered, this, language);
 }
 
 void MainWindow::ConnectServices() {
@@ -161,8 +162,6 @@ void MainWindow::ConnectServices() {
   connect(copy, &QShortcut::activated, this,
           [&services] { services.mnuCopyPage_Click(CopiedPage::kRightPage); });
 }
-
-void MainWindow::Say(const std::string& text) { user_.ShowMessage(text, "Vireo"); }
 
 void MainWindow::OpenAddress(const QString& address) { vireo::OpenAddress(QUrl(address)); }
 
@@ -345,6 +344,16 @@ void MainWindow::SetMenuTick(std::string_view item, bool ticked) {
   if (QAction* action = menu_->Item(QString::fromUtf8(item.data(), item.size()))) {
     action->setChecked(ticked);
   }
+}
+
+void MainWindow::ShowLanguages(const std::vector<std::string>& names, int chosen,
+                               std::string_view code) {
+  QStringList shown;
+  for (const std::string& name : names) shown.push_back(FromWindows1252(name));
+  canvas_->SetLanguages(shown, chosen);
+  menu_->SetLanguages(shown, chosen);
+  LoadQtTranslation(code, qt_translator_);
+  TranslateOpenForms();
 }
 
 void MainWindow::SetMenuEnabled(std::string_view item, bool enabled) {

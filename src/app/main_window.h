@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QMainWindow>
+#include <QTranslator>
 #include <array>
 #include <memory>
 
@@ -13,6 +14,7 @@
 #include "app/options_menu_qt.h"
 #include "app/peripheral_services_qt.h"
 #include "app/splash_window.h"
+#include "prefs/font_source_qt.h"
 
 namespace vireo {
 
@@ -33,6 +35,8 @@ class MainWindow : public QMainWindow, public MainWindowView {
   HelpDialogs& help() { return *help_; }
   QtPeripheralServices& services() { return *services_; }
   UserInteraction& user() { return user_; }
+  // The installed fonts the font dialog offers.
+  const FontSource& fonts() const { return fonts_; }
   SplashWindow* splash() const { return splash_.get(); }
   const QString& exit_caption() const { return exit_caption_; }
   // The status the program ended with (EndProgram), -1 while running.
@@ -64,6 +68,8 @@ class MainWindow : public QMainWindow, public MainWindowView {
   PageChooser& PageDialog() override;
   PeripheralServices& Services() override { return *services_; }
   void Milestone(std::string_view what) override;
+  void ShowLanguages(const std::vector<std::string>& names, int chosen,
+                     std::string_view code) override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -76,7 +82,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
  private:
   void ConnectCommands();
   void ConnectMenu();
-  void ConnectPlannedItems();
+  void ConnectDialogs();
   void ConnectServices();
   void OpenAddress(const QString& address);
   // Open...: the file dialog, then the chosen file offered to the reader.
@@ -85,7 +91,6 @@ class MainWindow : public QMainWindow, public MainWindowView {
                    Qt::KeyboardModifiers modifiers, double x, double y);
   void PlaceControlBar();
   // A message box of the planned features.
-  void Say(const std::string& text);
 
   // The page dialog as Goto Page asks it; in the non-interactive mode it is
   // cancelled at once.
@@ -99,6 +104,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   };
 
   QtMessagePump pump_;
+  QtFontSource fonts_;
   UserInteraction& user_;
   PageDialogChooser page_dialog_{this};
   BookCanvasWidget* canvas_;
@@ -109,6 +115,7 @@ class MainWindow : public QMainWindow, public MainWindowView {
   frmMain logic_;
   HelpDialogs* help_;
   std::unique_ptr<SplashWindow> splash_;
+  std::unique_ptr<QTranslator> qt_translator_;  // Qt's own texts in the chosen language
   QString exit_caption_;
   int end_status_ = -1;
   static constexpr int kWheelNotch = 120;

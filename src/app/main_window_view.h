@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "app/peripheral_services.h"
 #include "app/progress_display.h"
@@ -79,6 +81,14 @@ class MainWindowView : public ProgressDisplay {
   // A point in the program's progress ("first spread", "pagination
   // finished"), for timing; the window may report it.
   virtual void Milestone(std::string_view what) { (void)what; }
+
+  // The languages offered (English first, then their own names in
+  // Windows-1252) and the one chosen, with its file's code ("" for English):
+  // the window fills its language list and menu and translates its forms.
+  virtual void ShowLanguages(const std::vector<std::string>& names, int chosen,
+                             std::string_view code) {
+    (void)names, (void)chosen, (void)code;
+  }
 };
 
 }  // namespace vireo

@@ -4,54 +4,52 @@
 
 namespace vireo {
 
-OptionsMenu::OptionsMenu(QWidget* parent) : QMenu("Options", parent) {
+OptionsMenu::OptionsMenu(QWidget* parent) : QMenu(Translatable("Options"), parent) {
   setObjectName("Options");
-  Add(this, "mnuEraseBookmarks", "Erase All Bookmarks");
-  QMenu* file = AddSubmenu("mnuFile", "File");
-  Add(file, "mnuOpen", QString::fromStdString(GetTranslation("Open...")))
-      ->setShortcut(QKeySequence::Open);
-  Add(file, "mnuLoad", "Load");
-  Add(file, "mnuPrint", "Print");
-  Add(file, "mnuPrintSetup", "Print Setup");
-  Add(file, "mnuSave", "Export");
-  Add(file, "mnuEbook", "Create ebook");
+  Add(this, "mnuEraseBookmarks", Translatable("Erase All Bookmarks"));
+  QMenu* file = AddSubmenu("mnuFile", Translatable("File"));
+  Add(file, "mnuOpen", Translatable("Open..."))->setShortcut(QKeySequence::Open);
+  Add(file, "mnuLoad", Translatable("Load"));
+  Add(file, "mnuPrint", Translatable("Print"));
+  Add(file, "mnuPrintSetup", Translatable("Print Setup"));
+  Add(file, "mnuSave", Translatable("Export"));
+  Add(file, "mnuEbook", Translatable("Create ebook"));
   file->addSeparator();
-  Add(file, "mnuErasefile", "Delete");
-  Add(this, "mnuColours", "Page Setup");
-  Add(this, "mnuSelectFont", "Change Font");
+  Add(file, "mnuErasefile", Translatable("Delete"));
+  Add(this, "mnuColours", Translatable("Page Setup"));
+  Add(this, "mnuSelectFont", Translatable("Change Font"));
   addSeparator();
-  QMenu* search = AddSubmenu("mnuSearch", "Search");
-  Add(search, "mnuGetSearchTerm", "Enter search term");
-  Add(search, "mnuFindNext", "Find Next Match (N)");
-  Add(search, "mnuFindPrevious", "Find Previous Match (P)");
-  Add(this, "mnuGoto", "Goto Page...");
+  QMenu* search = AddSubmenu("mnuSearch", Translatable("Search"));
+  Add(search, "mnuGetSearchTerm", Translatable("Enter search term"));
+  Add(search, "mnuFindNext", Translatable("Find Next Match (N)"));
+  Add(search, "mnuFindPrevious", Translatable("Find Previous Match (P)"));
+  Add(this, "mnuGoto", Translatable("Goto Page..."));
   addSeparator();
-  Add(this, "mnuCopyPage", "Copy selected page to clipboard");
-  Add(this, "mnuReadAloud", "Read Aloud", true);
-  Add(this, "mnuPauseReading", "Pause Reading", true);
+  Add(this, "mnuCopyPage", Translatable("Copy selected page to clipboard"));
+  Add(this, "mnuReadAloud", Translatable("Read Aloud"), true);
+  Add(this, "mnuPauseReading", Translatable("Pause Reading"), true);
   addSeparator();
-  QMenu* format = AddSubmenu("mnuFormat", "Formatting");
-  Add(format, "mnuFormatting", "Format Paragraphs (Reloads file)", true);
-  Add(format, "mnuJustified", "Justify Text", true);
-  Add(format, "mnuIndentParagraphs", "Indent Paragraphs", true);
-  Add(format, "mnuUnderscores", "Change underscores to italics", true);
-  Add(format, "mnuExtraLine", "Extra line between paragraphs", true);
+  QMenu* format = AddSubmenu("mnuFormat", Translatable("Formatting"));
+  Add(format, "mnuFormatting", Translatable("Format Paragraphs (Reloads file)"), true);
+  Add(format, "mnuJustified", Translatable("Justify Text"), true);
+  Add(format, "mnuIndentParagraphs", Translatable("Indent Paragraphs"), true);
+  Add(format, "mnuUnderscores", Translatable("Change underscores to italics"), true);
+  Add(format, "mnuExtraLine", Translatable("Extra line between paragraphs"), true);
   addSeparator();
-  QMenu* language = AddSubmenu("mnuLanguage", "Language");
-  Add(language, "mnuSetLang0", "English");
-  Add(language, "mnuSetLang1", QString::fromUtf8("Espa\u00f1ol"));
-  Add(this, "mnuPayAuthor", "Author Payment");
+  languages_ = AddSubmenu("mnuLanguage", Translatable("Language"));
+  SetLanguages({"English"}, 0);
+  Add(this, "mnuPayAuthor", Translatable("Author Payment"));
   addSeparator();
-  Add(this, "mnuGutenberg", "Gutenberg Books");
+  Add(this, "mnuGutenberg", Translatable("Gutenberg Books"));
   addSeparator();
-  Add(this, "mnuHelp", "Help");
-  Add(this, "mnuReportProblem", "Report a problem");
+  Add(this, "mnuHelp", Translatable("Help"));
+  Add(this, "mnuReportProblem", Translatable("Report a problem"));
   addSeparator();
-  Add(this, "mnuToggleBar", "Toggle menu bar");
+  Add(this, "mnuToggleBar", Translatable("Toggle menu bar"));
   addSeparator();
-  Add(this, "mnuCheckUpdate", "Check for update");
-  Add(this, "mnuAbout", "About Marrowind Software");
-  Add(this, "mnuExit", "Exit Vireo");
+  Add(this, "mnuCheckUpdate", Translatable("Check for update"));
+  Add(this, "mnuAbout", Translatable("About Marrowind Software"));
+  Add(this, "mnuExit", Translatable("Exit Vireo"));
 }
 
 QAction* OptionsMenu::Add(QMenu* menu, const char* name, const QString& caption, bool checkable) {
@@ -68,6 +66,20 @@ QMenu* OptionsMenu::AddSubmenu(const char* name, const QString& caption) {
   submenu->menuAction()->setObjectName(name);
   items_[name] = submenu->menuAction();
   return submenu;
+}
+
+void OptionsMenu::SetLanguages(const QStringList& names, int chosen) {
+  for (QAction* old : languages_->actions()) {
+    items_.erase(old->objectName());
+    languages_->removeAction(old);
+    old->deleteLater();
+  }
+  for (int index = 0; index < names.size(); ++index) {
+    const QByteArray name = "mnuSetLang" + QByteArray::number(index);
+    QAction* item = Add(languages_, name.constData(), names[index], true);
+    item->setChecked(index == chosen);
+    connect(item, &QAction::triggered, this, [this, index] { emit languageChosen(index); });
+  }
 }
 
 QAction* OptionsMenu::Item(const QString& name) const {

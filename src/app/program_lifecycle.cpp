@@ -34,14 +34,18 @@ void StartupStep(auto&& step) {
 }  // namespace
 
 ProgramLifecycle::ProgramLifecycle(ReaderContext& context, BookSpread& spread, BookSession& session,
-                                   BookLoader& loader, WindowPreferences& preferences)
+                                   BookLoader& loader, WindowPreferences& preferences,
+                                   LanguageCommands& languages)
     : context_(context),
       spread_(spread),
       session_(session),
       loader_(loader),
-      preferences_(preferences) {}
+      preferences_(preferences),
+      languages_(languages) {}
 
-std::string ProgramLifecycle::ExitCaption() { return "Exit Vireo " + AppVersion(); }
+std::string ProgramLifecycle::ExitCaption() {
+  return GetTranslation("Exit Vireo") + " " + AppVersion();
+}
 
 std::string ProgramLifecycle::ProgramFolderString(const std::string& folder) {
   if (!folder.empty() && (folder.back() == '\\' || folder.back() == '/')) return "C:";
@@ -87,13 +91,15 @@ void ProgramLifecycle::RunStartupSteps() {
     pump.Yield();
   });
   StartupStep([&] {
-    view.ShowProgress("Loading Settings");
+    view.ShowProgress(GetTranslation("Loading Settings"));
     pump.Yield();
     LoadSettings(settings_path_);
     SetBookmarksFolder(context_.location.SettingsFolder());
   });
-  // FIXME: the language list and menu are filled once translation files land.
-  StartupStep([&] { view.ShowProgress("Setting up"); });
+  StartupStep([&] {
+    view.ShowProgress(GetTranslation("Setting up"));
+    languages_.FillLanguages();
+  });
   StartupStep([&] {
     if (context_.location.installed) {
       LogAction("File extensions are registered by the installation");
@@ -109,10 +115,10 @@ void ProgramLifecycle::RunStartupSteps() {
   });
   StartupStep([&] {
     LogAction("Scanning fonts");
-    view.ShowProgress("Scanning fonts...");
+    view.ShowProgress(GetTranslation("Scanning fonts..."));
   });
   StartupStep([&] {
-    view.ShowProgress("Setting up image containers...");
+    view.ShowProgress(GetTranslation("Setting up image containers..."));
     context_.images.SetDecoder(context_.buffers.Pictures());
   });
   StartupStep([&] { program_folder_ = ProgramFolderString(folder); });
@@ -127,7 +133,7 @@ void ProgramLifecycle::RunStartupSteps() {
   });
   StartupStep([&] {
     LogAction("Attempting to load Vireo" + std::string(kExecutableSuffix));
-    view.ShowProgress("Loading book");
+    view.ShowProgress(GetTranslation("Loading book"));
     pump.Yield();
   });
   StartupStep([&] {
@@ -146,7 +152,7 @@ void ProgramLifecycle::RunStartupSteps() {
 }
 
 void ProgramLifecycle::ApplyPreferences() {
-  context_.view.ShowProgress("Reading settings");
+  context_.view.ShowProgress(GetTranslation("Reading settings"));
   LogAction("Reading settings");
   ReadSettings(context_.prefs, preferences_,
                {context_.system_colours.window, context_.system_colours.window_text});

@@ -5,6 +5,7 @@
 #include "app/book_loader.h"
 #include "app/book_session.h"
 #include "app/book_spread.h"
+#include "app/language_commands.h"
 #include "app/reader_context.h"
 #include "app/window_preferences.h"
 
@@ -18,7 +19,7 @@ namespace vireo {
 class ProgramLifecycle {
  public:
   ProgramLifecycle(ReaderContext& context, BookSpread& spread, BookSession& session,
-                   BookLoader& loader, WindowPreferences& preferences);
+                   BookLoader& loader, WindowPreferences& preferences, LanguageCommands& languages);
 
   // The start-up sequence. Returns false when the program must end at once
   // (the helper library is missing); the message has been shown then.
@@ -52,6 +53,7 @@ class ProgramLifecycle {
   BookSession& session_;
   BookLoader& loader_;
   WindowPreferences& preferences_;
+  LanguageCommands& languages_;
   std::string settings_path_;
   std::string program_folder_;
 };

@@ -19,8 +19,9 @@ SearchCommands::SearchCommands(ReaderContext& context, BookSpread& spread,
 
 void SearchCommands::GetSearchTerm() {
   Trap("sub getsearchterm", kModule, [&] {
-    const auto answer = context_.user.AskText("Enter the word or words you want to search for",
-                                              "Search Terms", spread_.plotter().search_term());
+    const auto answer =
+        context_.user.AskText(GetTranslation("Enter the word or words you want to search for"),
+                              GetTranslation("Search Terms"), spread_.plotter().search_term());
     if (!answer || answer->empty()) return;
     spread_.plotter().SetSearchTerm(*answer);
     context_.view.SetBarLabel(BarLabel::kSearch, *answer, context_.system_colours.button_text);

@@ -3,6 +3,7 @@
 #include <QVBoxLayout>
 
 #include "support/error_trap.h"
+#include "support/translate_form_qt.h"
 
 namespace vireo {
 
@@ -20,7 +21,7 @@ SplashWindow::SplashWindow(QWidget* parent)
     auto* copyright = new QLabel(QString::fromUtf8(kCopyright), this);
     copyright->setAlignment(Qt::AlignCenter);
     status_->setAlignment(Qt::AlignCenter);
-    status_->setText("Loading Font List...");
+    status_->setText(Tr("Loading Font List..."));
     layout->addWidget(title);
     layout->addWidget(copyright);
     layout->addWidget(status_);

@@ -100,7 +100,7 @@ void clsBIN::Progress(std::string_view caption, int value) {
 // The common end of every conversion: reformatting, pictures, and the body
 // handed over as the result.
 void clsBIN::Finish(int progress) {
-  Progress("Finishing", progress);
+  Progress(Translatable("Finishing"), progress);
   FinalPass();
   ParseImages(body_);
   result_text_ = std::move(body_);
@@ -110,9 +110,9 @@ void clsBIN::Finish(int progress) {
 void clsBIN::ConvertLoadedBRN() {
   Step("sub convertloadedbrn", [&] {
     book_folder_ = ProgramFolder() + kSeparator;
-    Progress("Unpacking", 30);
+    Progress(Translatable("Unpacking"), 30);
     DecodeAndExtract();
-    Progress("Reformatting Text", 50);
+    Progress(Translatable("Reformatting Text"), 50);
     DecodeDetails();
     Finish(80);
   });
@@ -121,11 +121,11 @@ void clsBIN::ConvertLoadedBRN() {
 void clsBIN::ConvertAndLoadBRN(const std::string& path) {
   Step("sub convertandloadbrn", [&] {
     book_folder_ = BookFolderOf(path);
-    Progress("Reading BRN file", 20);
+    Progress(Translatable("Reading BRN file"), 20);
     ReadBin(path);
-    Progress("Unpacking", 30);
+    Progress(Translatable("Unpacking"), 30);
     DecodeAndExtract();
-    Progress("Reformatting Text", 60);
+    Progress(Translatable("Reformatting Text"), 60);
     DecodeDetails();
     Finish(80);
   });
@@ -134,12 +134,12 @@ void clsBIN::ConvertAndLoadBRN(const std::string& path) {
 void clsBIN::ConvertAndLoadBFL(const std::string& path) {
   Step("sub convertandloadbfl", [&] {
     book_folder_ = BookFolderOf(path);
-    Progress("Reading file", 10);
+    Progress(Translatable("Reading file"), 10);
     ReadBin(path);
-    Progress("Unpacking", 50);
+    Progress(Translatable("Unpacking"), 50);
     if (CheckForBflHeader()) DecodeDetails();
     DecodeBin();
-    Progress("Reformatting Text", 70);
+    Progress(Translatable("Reformatting Text"), 70);
     Finish(90);
   });
 }

@@ -51,36 +51,6 @@ std::string EncodingName(TextEncoding encoding) {
   return "Windows-1252";
 }
 
-std::optional<char32_t> NextUtf8(std::string_view bytes, size_t& index) {
-  const uint8_t lead = static_cast<uint8_t>(bytes[index]);
-  int length = 0;
-  char32_t value = 0;
-  if (lead < 0x80) {
-    ++index;
-    return lead;
-  } else if (lead >= 0xC2 && lead <= 0xDF) {
-    length = 2, value = lead & 0x1F;
-  } else if (lead >= 0xE0 && lead <= 0xEF) {
-    length = 3, value = lead & 0x0F;
-  } else if (lead >= 0xF0 && lead <= 0xF4) {
-    length = 4, value = lead & 0x07;
-  } else {
-    return std::nullopt;
-  }
-  if (bytes.size() - index < static_cast<size_t>(length)) return std::nullopt;
-  for (int i = 1; i < length; ++i) {
-    const uint8_t next = static_cast<uint8_t>(bytes[index + static_cast<size_t>(i)]);
-    if ((next & 0xC0) != 0x80) return std::nullopt;
-    value = (value << 6) | (next & 0x3F);
-  }
-  const char32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
-  if (value < smallest[length] || value > 0x10FFFF || (value >= 0xD800 && value <= 0xDFFF)) {
-    return std::nullopt;
-  }
-  index += static_cast<size_t>(length);
-  return value;
-}
-
 std::string Utf8FromUtf16(std::string_view bytes, TextEncoding encoding) {
   const bool little = encoding == TextEncoding::kUtf16LittleEndian;
   if (bytes.starts_with(little ? kUtf16LittleEndianMark : kUtf16BigEndianMark)) {

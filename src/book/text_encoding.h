@@ -18,11 +18,6 @@ TextEncoding DetectEncoding(std::string_view bytes);
 // The encoding's name as the person reads it ("UTF-8", "Windows-1252", ...).
 std::string EncodingName(TextEncoding encoding);
 
-// The UTF-8 character at index (advancing index past it), or nullopt when
-// the bytes there are not valid UTF-8 (index is left as it was). index must
-// be below bytes.size().
-std::optional<char32_t> NextUtf8(std::string_view bytes, size_t& index);
-
 // UTF-16 bytes (after or with their byte-order mark, which is dropped) as
 // UTF-8. An odd last byte and an unpaired surrogate become U+FFFD, so that
 // the maker reports them as characters without a place in the book.

@@ -12,6 +12,7 @@
 
 #include "support/error_trap.h"
 #include "support/translation.h"
+#include "support/windows1252_qt.h"
 
 namespace vireo {
 
@@ -75,7 +76,7 @@ class PageSliderStrip : public QWidget {
 
 frmPageNav::frmPageNav(QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("frmPageNav"));
-  setWindowTitle(QString::fromStdString(GetTranslation("Goto Page")));
+  setWindowTitle(FromWindows1252(GetTranslation("Goto Page")));
   setModal(true);
 
   picture1_ = new PageSliderStrip;
@@ -88,15 +89,15 @@ frmPageNav::frmPageNav(QWidget* parent) : QDialog(parent) {
   txt_goto_page_->setObjectName(QStringLiteral("txtGotoPage"));
 
   auto button = [](const char* name, const char* caption) {
-    auto* b = new QPushButton(QString::fromStdString(GetTranslation(caption)));
+    auto* b = new QPushButton(FromWindows1252(GetTranslation(caption)));
     b->setObjectName(QString::fromLatin1(name));
     b->setAutoDefault(false);
     return b;
   };
-  cmd_first_ = button("cmdFirst", "First");
-  cmd_last_ = button("cmdLast", "Last");
+  cmd_first_ = button("cmdFirst", Translatable("First"));
+  cmd_last_ = button("cmdLast", Translatable("Last"));
   cmd_ok_ = button("cmdOK", "OK");
-  cmd_cancel_ = button("cmdCancel", "Cancel");
+  cmd_cancel_ = button("cmdCancel", Translatable("Cancel"));
   cmd_ok_->setDefault(true);
   connect(cmd_first_, &QPushButton::clicked, this, [this] {
     state_.SelectFirst();

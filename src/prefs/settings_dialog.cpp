@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include "support/error_trap.h"
+#include "support/translate_form_qt.h"
 #include "support/translation.h"
 
 namespace vireo {
@@ -22,8 +23,6 @@ namespace vireo {
 namespace {
 
 constexpr std::string_view kModule = "frmSettings";
-
-QString Tr(const char* text) { return QString::fromStdString(GetTranslation(text)); }
 
 QColor ToQColor(uint32_t bgr) {
   const ColourComponents c = SplitColour(bgr);
@@ -66,9 +65,9 @@ class SettingsSample : public QWidget {
     const struct {
       const char* text;
       PageColour colour;
-    } lines[] = {{"Normal text", PageColour::kInk},
-                 {"Highlighted text", PageColour::kHighlight},
-                 {"Page Numbers", PageColour::kPageNumber}};
+    } lines[] = {{Translatable("Normal text"), PageColour::kInk},
+                 {Translatable("Highlighted text"), PageColour::kHighlight},
+                 {Translatable("Page Numbers"), PageColour::kPageNumber}};
     int y = 10;
     for (const auto& line : lines) {
       painter.setPen(ToQColor(form_.Colour(line.colour)));
@@ -117,10 +116,11 @@ frmSettings::frmSettings(ReaderPreferences& prefs, SystemColours system,
 QWidget* frmSettings::BuildColours() {
   auto* box = new QGroupBox(Tr("Colours"));
   auto* grid = new QGridLayout(box);
-  const std::pair<const char*, const char*> options[] = {{"optInk", "Normal text"},
-                                                         {"optHL", "Highlighted text"},
-                                                         {"optPageNum", "Page Numbers"},
-                                                         {"optPaper", "Paper"}};
+  const std::pair<const char*, const char*> options[] = {
+      {"optInk", Translatable("Normal text")},
+      {"optHL", Translatable("Highlighted text")},
+      {"optPageNum", Translatable("Page Numbers")},
+      {"optPaper", Translatable("Paper")}};
   for (size_t i = 0; i < colour_options_.size(); ++i) {
     auto* option = Named(new QRadioButton(Tr(options[i].second)), options[i].first);
     colour_options_[i] = option;
@@ -130,8 +130,9 @@ QWidget* frmSettings::BuildColours() {
       ShowForm();
     });
   }
-  const std::pair<const char*, const char*> bars[] = {
-      {"HSRed", "Red"}, {"HSGreen", "Green"}, {"HSBlue", "Blue"}};
+  const std::pair<const char*, const char*> bars[] = {{"HSRed", Translatable("Red")},
+                                                      {"HSGreen", Translatable("Green")},
+                                                      {"HSBlue", Translatable("Blue")}};
   for (size_t i = 0; i < scroll_bars_.size(); ++i) {
     auto* bar = Named(new QScrollBar(Qt::Horizontal), bars[i].first);
     bar->setRange(0, 255);
@@ -188,10 +189,11 @@ QWidget* frmSettings::BuildTextures() {
 QWidget* frmSettings::BuildBorders() {
   auto* box = new QGroupBox(Tr("Page"));
   auto* form = new QFormLayout(box);
-  const std::pair<const char*, const char*> borders[] = {{"txtLeftBorder", "Left border"},
-                                                         {"txtRightBorder", "Right border"},
-                                                         {"txtTopBorder", "Top border"},
-                                                         {"txtBottomBorder", "Bottom border"}};
+  const std::pair<const char*, const char*> borders[] = {
+      {"txtLeftBorder", Translatable("Left border")},
+      {"txtRightBorder", Translatable("Right border")},
+      {"txtTopBorder", Translatable("Top border")},
+      {"txtBottomBorder", Translatable("Bottom border")}};
   for (size_t i = 0; i < border_boxes_.size(); ++i) {
     auto* text = Named(new QLineEdit, borders[i].first);
     border_boxes_[i] = text;
@@ -220,19 +222,21 @@ QWidget* frmSettings::BuildButtons() {
     row->addWidget(b);
     return b;
   };
-  connect(button("cmdDefaults", "Defaults"), &QPushButton::clicked, this, [this] {
+  connect(button("cmdDefaults", Translatable("Defaults")), &QPushButton::clicked, this, [this] {
     form_.Defaults();
     ShowForm();
   });
-  connect(button("cmdDefaultBorders", "Default borders"), &QPushButton::clicked, this, [this] {
-    form_.DefaultBorders();
-    ShowBorders();
-  });
+  connect(button("cmdDefaultBorders", Translatable("Default borders")), &QPushButton::clicked, this,
+          [this] {
+            form_.DefaultBorders();
+            ShowBorders();
+          });
   row->addStretch();
-  QPushButton* ok = button("cmdOK", "OK");
+  QPushButton* ok = button("cmdOK", Translatable("OK"));
   ok->setDefault(true);
   connect(ok, &QPushButton::clicked, this, [this] { PressOK(); });
-  connect(button("cmdCancel", "Cancel"), &QPushButton::clicked, this, &QDialog::reject);
+  connect(button("cmdCancel", Translatable("Cancel")), &QPushButton::clicked, this,
+          &QDialog::reject);
   return strip;
 }
 

@@ -28,10 +28,12 @@ struct BorderRule {
   const char* phrase;
 };
 constexpr std::array<BorderRule, 4> kBorderRules = {{
-    {"LeftBorder", &BorderTexts::left, 400, 100, 1000, "Left border must be between"},
-    {"TopBorder", &BorderTexts::top, 300, 100, 1000, "Top border must be between"},
-    {"BottomBorder", &BorderTexts::bottom, 550, 200, 1000, "Bottom border must be between"},
-    {"RightBorder", &BorderTexts::right, 400, 100, 1000, "Right border must be between"},
+    {"LeftBorder", &BorderTexts::left, 400, 100, 1000, Translatable("Left border must be between")},
+    {"TopBorder", &BorderTexts::top, 300, 100, 1000, Translatable("Top border must be between")},
+    {"BottomBorder", &BorderTexts::bottom, 550, 200, 1000,
+     Translatable("Bottom border must be between")},
+    {"RightBorder", &BorderTexts::right, 400, 100, 1000,
+     Translatable("Right border must be between")},
 }};
 
 double StoredBorder(const BorderRule& rule) {

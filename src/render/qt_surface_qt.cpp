@@ -9,18 +9,10 @@
 #include <tuple>
 
 #include "support/windows1252.h"
+#include "support/windows1252_qt.h"
 
 namespace vireo {
 namespace {
-
-QString FromWindows1252(std::string_view bytes) {
-  QString text;
-  text.reserve(static_cast<qsizetype>(bytes.size()));
-  for (char c : bytes) {
-    text.append(QChar(static_cast<char16_t>(Windows1252ToUnicode(static_cast<uint8_t>(c)))));
-  }
-  return text;
-}
 
 QFont BookFont() {
   QFont font(QStringLiteral("Times New Roman"));

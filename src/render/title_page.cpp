@@ -24,9 +24,12 @@ constexpr double kCaptionGap = 100;
 constexpr double kBelowList = 50;
 
 constexpr std::array<std::string_view, 6> kHints = {
-    "Right-click a page for the menu", "Click LOAD to load a file",
-    "Left-click a page to turn it",    "Press B to toggle the control bar",
-    "Press F1 for the Vireo manual",   "Press 1 and 2 to toggle page mode",
+    Translatable("Right-click a page for the menu"),
+    Translatable("Click LOAD to load a file"),
+    Translatable("Left-click a page to turn it"),
+    Translatable("Press B to toggle the control bar"),
+    Translatable("Press F1 for the Vireo manual"),
+    Translatable("Press 1 and 2 to toggle page mode"),
 };
 
 // The page boxes keep whatever style was last set on them (measuring the font

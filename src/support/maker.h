@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "support/translation.h"
+
 namespace vireo {
 
 // The maker of the reader, named on the title page, in messages and menus.
@@ -11,7 +13,7 @@ inline constexpr std::string_view kMakerCountry = "New Zealand";
 // Where error reports are mailed.
 inline constexpr std::string_view kMakerBugAddress = "bugs@vireo-reader.example.org";
 // The terms the reader is given under, as the about window states them.
-inline constexpr std::string_view kLicence =
-    "Vireo is free to use and to give away in unchanged copies. It comes without any warranty.";
+inline constexpr std::string_view kLicence = Translatable(
+    "Vireo is free to use and to give away in unchanged copies. It comes without any warranty.");
 
 }  // namespace vireo

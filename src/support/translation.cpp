@@ -15,12 +15,6 @@ std::vector<std::string>& Language() {
   return entries;
 }
 
-std::string LowerCase(std::string_view text) {
-  std::string lower(text);
-  for (char& c : lower) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  return lower;
-}
-
 std::string TrimBlanks(std::string_view text) {
   const size_t first = text.find_first_not_of(' ');
   if (first == std::string_view::npos) return "";
@@ -28,6 +22,12 @@ std::string TrimBlanks(std::string_view text) {
 }
 
 }  // namespace
+
+std::string LowerCase(std::string_view text) {
+  std::string lower(text);
+  for (char& c : lower) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  return lower;
+}
 
 std::string BeforeBreak(std::string_view entry) {
   return TrimBlanks(entry.substr(0, entry.find("||")));

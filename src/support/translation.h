@@ -21,6 +21,14 @@ void SetLanguage(std::vector<std::string> entries);
 std::string BeforeBreak(std::string_view entry);
 std::string AfterBreak(std::string_view entry);
 
+// The key a text is looked up by: its ASCII letters in lower case.
+std::string LowerCase(std::string_view text);
+
+// Marks an English text that is translated where it is shown (a form's
+// caption, or an entry of a table of messages), so that the check of the
+// translation files finds it. Returns text unchanged.
+constexpr const char* Translatable(const char* text) { return text; }
+
 // Index of the entry whose lower-cased BeforeBreak equals key, or -1.
 int SeekItem(const std::vector<std::string>& entries, std::string_view key);
 

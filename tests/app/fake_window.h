@@ -30,7 +30,16 @@ class FakeWindowView : public HeadlessWindowView {
   void ShowContextMenu() override { ++context_menus; }
   PeripheralServices& Services() override { return services; }
   void ShowOptionsMenuAtPage() override { ++menus_at_page; }
+  void ShowLanguages(const std::vector<std::string>& names, int chosen,
+                     std::string_view code) override {
+    languages = names;
+    chosen_language = chosen;
+    language_code = code;
+  }
 
+  std::vector<std::string> languages;  // offered, English first
+  int chosen_language = -1;
+  std::string language_code;
   std::vector<std::string> splash_status;
   std::vector<std::string> progress_shown;  // after the splash
   int context_menus = 0;

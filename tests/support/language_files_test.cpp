@@ -1,0 +1,77 @@
+// Reading translation files and looking texts up in them.
+
+#include "support/language_files.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "support/logging.h"
+#include "support/translation.h"
+#include "test_support.h"
+
+namespace vireo {
+namespace {
+
+class LanguageFilesTest : public testing::Test {
+ protected:
+  void SetUp() override { SetLogFolder(folder.str()); }
+  void TearDown() override {
+    SetLanguage({});
+    SetLogFolder("");
+  }
+  std::string Write(const std::string& name, const std::string& content) {
+    test::WriteFile(folder.File(name), content);
+    return folder.File(name);
+  }
+  test::TempFolder folder;
+};
+
+TEST_F(LanguageFilesTest, AFileWithFaultyLinesLoadsTheRestAndLogsTheFaults) {
+  const std::string path = Write("es.lng",
+                                 "\xEF\xBB\xBF# Spanish\r\n"
+                                 "Language: Espa\xC3\xB1ol\r\n"
+                                 "\r\n"
+                                 "Enter the font size || Introduzca el tama\xC3\xB1o de letra\r\n"
+                                 "a line without the separator\r\n"
+                                 "ENTER THE FONT SIZE || a second entry for the same text\r\n"
+                                 " || no English text\r\n"
+                                 "Pages || \xFF not UTF-8\r\n"
+                                 "Left empty ||\r\n"
+                                 "Hints||Consejos");
+  const LanguageText text = ReadLanguageFile(path);
+  EXPECT_EQ(text.name, "Espa\xF1ol") << "Windows-1252, as the program holds text";
+  EXPECT_EQ(text.entries,
+            (std::vector<std::string>{"Enter the font size || Introduzca el tama\xF1o de letra",
+                                      "Left empty ||", "Hints||Consejos"}));
+  const std::string log = test::ReadFile(folder.File("log.txt"));
+  for (const char* line : {"line 5 ", "line 6 ", "line 7 ", "line 8 "}) {
+    EXPECT_NE(log.find(line), std::string::npos) << line;
+  }
+
+  SetLanguage(text.entries);
+  EXPECT_EQ(GetTranslation("Enter The Font Size"), "Introduzca el tama\xF1o de letra");
+  EXPECT_EQ(GetTranslation("hints"), "Consejos");
+  EXPECT_EQ(GetTranslation("Left empty"), "") << "an entry without a translation";
+  EXPECT_EQ(GetTranslation("Not in the file"), "Not in the file");
+  SetLanguage({});
+  EXPECT_EQ(GetTranslation("Enter the font size"), "Enter the font size");
+}
+
+TEST_F(LanguageFilesTest, LanguagesAreFoundByTheirFilesAndOrderedByName) {
+  const std::string languages = LanguagesFolder(folder.str());
+  std::filesystem::create_directory(languages);
+  test::WriteFile(languages + "/es.lng", "Language: Espa\xC3\xB1ol\n");
+  test::WriteFile(languages + "/de.lng", "# German\nLanguage: Deutsch\nHints || Hinweise\n");
+  test::WriteFile(languages + "/xx.lng", "Hints || ?\n");
+  test::WriteFile(languages + "/notes.txt", "Language: Notes\n");
+  std::vector<std::string> found;
+  for (const LanguageFile& file : FindLanguages(languages)) {
+    found.push_back(file.code + "=" + file.name);
+  }
+  EXPECT_EQ(found, (std::vector<std::string>{"de=Deutsch", "es=Espa\xF1ol", "xx=xx"}));
+  EXPECT_TRUE(FindLanguages(folder.File("missing")).empty());
+}
+
+}  // namespace
+}  // namespace vireo
