@@ -5,6 +5,7 @@
 #include <QtGlobal>
 
 #include "app/interaction_qt.h"
+#include "support/translate_form_qt.h"
 #include "support/translation.h"
 
 namespace vireo {
@@ -23,7 +24,7 @@ QLabel* AddLine(QVBoxLayout* layout, const char* name, const QString& text) {
 frmAbout::frmAbout(const AboutBook& book, QWidget* parent) : QDialog(parent) {
   const AboutText text = MakeAboutText(book);
   setObjectName("frmAbout");
-  setWindowTitle(FromWindows1252(GetTranslation("About Vireo")));
+  setWindowTitle(Tr("About Vireo"));
   auto* layout = new QVBoxLayout(this);
   lblProgram = AddLine(layout, "lblProgram", FromWindows1252(text.program));
   QFont big = lblProgram->font();
@@ -44,7 +45,7 @@ frmAbout::frmAbout(const AboutBook& book, QWidget* parent) : QDialog(parent) {
   lblBook = AddLine(layout, "lblBook", FromWindows1252(text.book));
   auto* buttons = new QHBoxLayout;
   buttons->addStretch();
-  cmdOK = new QPushButton(FromWindows1252(GetTranslation("OK")));
+  cmdOK = new QPushButton(Tr("OK"));
   cmdOK->setObjectName("cmdOK");
   cmdOK->setDefault(true);
   buttons->addWidget(cmdOK);

@@ -11,6 +11,7 @@
 #include "prefs/settings_get_set.h"
 #include "render/book_display.h"
 #include "support/logging.h"
+#include "support/translate_form_qt.h"
 #include "support/translation.h"
 
 namespace vireo {
@@ -87,16 +88,14 @@ void BookPrinter::PrintPages(QPrinter& printer, int page_count, bool progress) {
   QPainter painter;
   if (!painter.begin(&printer)) {
     return PrinterError(printer.outputFileName().isEmpty()
-                            ? FromWindows1252(GetTranslation("The printer could not be started:")) +
-                                  " " + printer.printerName()
-                            : FromWindows1252(GetTranslation("The file could not be written:")) +
-                                  " " + printer.outputFileName());
+                            ? Tr("The printer could not be started:") + " " + printer.printerName()
+                            : Tr("The file could not be written:") + " " +
+                                  printer.outputFileName());
   }
   std::unique_ptr<QProgressDialog> dialog;
   if (progress) {
-    dialog = std::make_unique<QProgressDialog>(FromWindows1252(GetTranslation("Printing...")),
-                                               FromWindows1252(GetTranslation("Cancel")), 0,
-                                               range.count(), parent_);
+    dialog = std::make_unique<QProgressDialog>(Tr("Printing..."), Tr("Cancel"), 0, range.count(),
+                                               parent_);
     dialog->setWindowModality(Qt::WindowModal);
     dialog->setMinimumDuration(500);
   }
@@ -105,7 +104,7 @@ void BookPrinter::PrintPages(QPrinter& printer, int page_count, bool progress) {
   if (outcome == PrintOutcome::kCancelled) printer.abort();
   painter.end();
   if (outcome == PrintOutcome::kFailed) {
-    PrinterError(FromWindows1252(GetTranslation("The printer stopped taking pages.")));
+    PrinterError(Tr("The printer stopped taking pages."));
   }
 }
 

@@ -9,12 +9,11 @@
 #include <cstdlib>
 
 #include "app/interaction_qt.h"
+#include "support/translate_form_qt.h"
 #include "support/translation.h"
 
 namespace vireo {
 namespace {
-
-QString Tr(const char* english) { return FromWindows1252(GetTranslation(english)); }
 
 QString Local(const std::string& path) { return QString::fromLocal8Bit(path.c_str()); }
 std::string Local(const QString& path) { return path.toLocal8Bit().toStdString(); }

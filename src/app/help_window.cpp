@@ -10,6 +10,7 @@
 #include "app/interaction_qt.h"
 #include "support/file_io.h"
 #include "support/platform.h"
+#include "support/translate_form_qt.h"
 #include "support/translation.h"
 
 namespace vireo {
@@ -32,7 +33,7 @@ HelpWindow::HelpWindow(QWidget* parent)
       contents_(new QListWidget(this)),
       browser_(new QTextBrowser(this)) {
   setObjectName("frmHelp");
-  setWindowTitle(FromWindows1252(GetTranslation("The Vireo manual")));
+  setWindowTitle(Tr("The Vireo manual"));
   resize(900, 640);
   browser_->setOpenExternalLinks(false);
   browser_->setOpenLinks(false);

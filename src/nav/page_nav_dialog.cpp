@@ -11,6 +11,7 @@
 #include <functional>
 
 #include "support/error_trap.h"
+#include "support/translate_form_qt.h"
 #include "support/translation.h"
 #include "support/windows1252_qt.h"
 
@@ -76,7 +77,7 @@ class PageSliderStrip : public QWidget {
 
 frmPageNav::frmPageNav(QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("frmPageNav"));
-  setWindowTitle(FromWindows1252(GetTranslation("Goto Page")));
+  setWindowTitle(Tr("Goto Page"));
   setModal(true);
 
   picture1_ = new PageSliderStrip;
@@ -89,7 +90,7 @@ frmPageNav::frmPageNav(QWidget* parent) : QDialog(parent) {
   txt_goto_page_->setObjectName(QStringLiteral("txtGotoPage"));
 
   auto button = [](const char* name, const char* caption) {
-    auto* b = new QPushButton(FromWindows1252(GetTranslation(caption)));
+    auto* b = new QPushButton(Tr(caption));
     b->setObjectName(QString::fromLatin1(name));
     b->setAutoDefault(false);
     return b;
