@@ -17,7 +17,7 @@ using test::WriteFile;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-constexpr const char* kInstant = "INSTANTPAGETURN,True\r\n";
+using test::kInstant;
 
 // A test picture file of the fake decoder, height given in twips.
 std::string PictureOfHeight(double twips) {

@@ -18,13 +18,13 @@ void Turn(test::ReaderWindow& reader, int spreads) {
 }
 
 TEST(BookmarksWindow, CopiesShareAPositionAndErasingKeepsOnlyTheBookOnShowAtExit) {
-  test::ReaderWindow reader(test::SampleProse(80), kInstant);
+  test::ReaderWindow reader(test::NumberedProse(300), kInstant);
   reader.Start();
   Turn(reader, 3);
   const std::string first = reader.folder().File("first/Story.htm");
   const std::string second = reader.folder().File("second/Story.htm");
-  WriteEbook(first, test::SampleProse(80));
-  WriteEbook(second, test::SampleProse(80));
+  WriteEbook(first, test::NumberedProse(300));
+  WriteEbook(second, test::NumberedProse(300));
   ASSERT_TRUE(test::DropFile(reader, first));
   EXPECT_EQ(reader.window().windowTitle(), "Story.htm");
   EXPECT_EQ(reader.logic().current_page(), 2) << "a book shown for the first time";

@@ -5,12 +5,13 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
-#include <QTimer>
+#include <QWheelEvent>
 #include <string>
 #include <utility>
 
 #include "app/main_window.h"
 #include "app/reader_window_fixture.h"
+#include "nav/page_nav_dialog.h"
 
 namespace vireo {
 namespace {
@@ -19,20 +20,33 @@ using test::kInstant;
 using test::LastMessage;
 using test::Press;
 
-TEST(ReaderKeys, EveryKeyOfTheMapGivesItsCommand) {
-  test::ReaderWindow reader(test::SampleProse(80), kInstant);
+TEST(ReaderKeys, EveryKeyOfTheMapAndWholeWheelNotchesGiveTheirCommands) {
+  test::ReaderWindow reader(test::NumberedProse(300), kInstant);
   reader.Start();
-  ASSERT_GT(reader.logic().pages().count, 10);
+  ASSERT_GT(reader.logic().pages().count, 12);
   EXPECT_EQ(reader.logic().current_page(), 2);
-  const std::pair<Qt::Key, int> turns[] = {{Qt::Key_Space, 4}, {Qt::Key_Right, 6}, {Qt::Key_M, 8},
-                                           {Qt::Key_Left, 6},  {Qt::Key_Z, 4},     {Qt::Key_X, 4},
-                                           {Qt::Key_Return, 4}};  // other keys do nothing
+  const std::pair<Qt::Key, int> turns[] = {
+      {Qt::Key_Space, 4}, {Qt::Key_Right, 6}, {Qt::Key_M, 8}, {Qt::Key_PageDown, 10},
+      {Qt::Key_Left, 8},  {Qt::Key_Z, 6},     {Qt::Key_X, 6}, {Qt::Key_Return, 6},
+      {Qt::Key_Home, 2},  {Qt::Key_Space, 4}};  // X and Return do nothing
   for (const auto& [key, page] : turns) {
     Press(reader, key);
     EXPECT_EQ(reader.logic().current_page(), page) << key;
   }
   Press(reader, Qt::Key_Space, Qt::ShiftModifier);
   EXPECT_EQ(reader.logic().current_page(), 2);
+  const auto wheel = [&](int eighths_of_a_degree) {
+    const QPointF at(10, 10);
+    QWheelEvent event(at, at, {}, {0, eighths_of_a_degree}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&reader.window(), &event);
+  };
+  for (const auto& [eighths, page] : {std::pair{-60, 2}, {-60, 4}, {120, 2}}) {
+    wheel(eighths);
+    EXPECT_EQ(reader.logic().current_page(), page) << "half a notch turns nothing yet";
+  }
+  Press(reader, Qt::Key_End);
+  EXPECT_GE(reader.logic().current_page(), reader.logic().pages().count);
   EXPECT_TRUE(reader.user().messages.empty());
 
   Press(reader, Qt::Key_L);
@@ -40,52 +54,21 @@ TEST(ReaderKeys, EveryKeyOfTheMapGivesItsCommand) {
   Press(reader, Qt::Key_F1);
   // This program folder holds no manual; the window test of the manual copies one.
   EXPECT_EQ(LastMessage(reader).rfind("The manual was not found", 0), 0u) << LastMessage(reader);
-  reader.user().answer = "paragraph 20 goes";
+  Press(reader, Qt::Key_Home);
+  reader.user().answer = "paragraph 80 tells";
   Press(reader, Qt::Key_S);
-  EXPECT_EQ(reader.window().bar().lblSearch->text(), "paragraph 20 goes");
+  EXPECT_EQ(reader.window().bar().lblSearch->text(), "paragraph 80 tells");
   Press(reader, Qt::Key_N);
   EXPECT_GT(reader.logic().current_page(), 2);
-  QTimer poll;  // answers the page dialog, once open, with its Last button
-  QObject::connect(&poll, &QTimer::timeout, [&poll] {
-    QWidget* dialog = QApplication::activeModalWidget();
-    if (dialog == nullptr || !dialog->isVisible()) return;
-    poll.stop();
-    dialog->findChild<QAbstractButton*>("cmdLast")->click();
-  });
-  poll.start(10);
-  Press(reader, Qt::Key_G);
+  EXPECT_TRUE(test::Answering<frmPageNav>(
+      [&] { Press(reader, Qt::Key_G); },
+      [](frmPageNav& page) { page.findChild<QAbstractButton*>("cmdLast")->click(); }));
   const int count = reader.logic().pages().count;
   EXPECT_EQ(reader.logic().current_page(), (count % 2 == 0 ? count - 1 : count) + 1);
 }
 
-// The item names of the menu in order, "-" for a separator, a submenu's in brackets.
-std::string MenuNames(const QMenu& menu) {
-  std::string names;
-  for (const QAction* action : menu.actions()) {
-    names += action->isSeparator() ? "- " : action->objectName().toStdString() + " ";
-    if (action->menu() != nullptr) names += "[" + MenuNames(*action->menu()) + "] ";
-  }
-  return names;
-}
-
-TEST(ReaderMenu, TheOptionsMenuHasEveryItemInOrder) {
-  test::ReaderWindow reader("A short book.");
-  const OptionsMenu& menu = reader.window().menu();
-  EXPECT_EQ(MenuNames(menu),
-            "mnuEraseBookmarks mnuFile [mnuOpen mnuLoad mnuPrint mnuPrintSetup mnuSave mnuEbook - "
-            "mnuErasefile ] "
-            "mnuColours mnuSelectFont - mnuSearch [mnuGetSearchTerm mnuFindNext mnuFindPrevious ] "
-            "mnuGoto - mnuCopyPage mnuReadAloud mnuPauseReading - mnuFormat [mnuFormatting "
-            "mnuJustified mnuIndentParagraphs mnuUnderscores mnuExtraLine ] - mnuLanguage "
-            "[mnuSetLang0 ] mnuPayAuthor "
-            "- mnuGutenberg - mnuHelp mnuReportProblem - mnuToggleBar - mnuCheckUpdate mnuAbout mnuExit ");
-  EXPECT_EQ(menu.title(), "Options");
-  EXPECT_EQ(menu.Item("mnuFile")->text().toStdString(), "File") << "a submenu by its name";
-  EXPECT_EQ(menu.Item("mnuSetLang0")->text().toStdString(), "English") << "without translations";
-}
-
 TEST(FontSize, TypedSizesRunFromSevenToFortyEightAndTheButtonsFromSixToFortyEight) {
-  test::ReaderWindow reader(test::SampleProse(20), std::string("FONTSIZE,7\r\n") + kInstant);
+  test::ReaderWindow reader(test::NumberedProse(80), std::string("FONTSIZE,7\r\n") + kInstant);
   reader.Start();
   const auto font_size = [&] { return reader.logic().preferences().font_size; };
   const auto type = [&](const char* typed) {

@@ -32,8 +32,6 @@ TEST(CreateEbookDialog, AChosenTextIsMadeIntoAPackedBookThatOpens) {
   dialog->ChooseText(text);
   EXPECT_EQ(dialog->lblEncoding->text(), "UTF-16 (little-endian)");
   EXPECT_EQ(dialog->txtTitle->text(), "The Small Book");
-  EXPECT_EQ(dialog->txtAuthor->text(), "Ann Writer");
-  EXPECT_EQ(dialog->txtOut->text().toStdString(), reader.folder().File("small"));
   dialog->optBrn->click();
   EXPECT_EQ(dialog->txtOut->text().toStdString(), reader.folder().File("small.brn"));
 

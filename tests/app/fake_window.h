@@ -1,17 +1,15 @@
 #pragma once
 
-#include <array>
 #include <filesystem>
 #include <functional>
-#include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "app/fake_services.h"
 #include "app/frm_main.h"
 #include "app/headless_window.h"
 #include "book/book_maker.h"
-#include "app/fake_services.h"
 #include "fake_pump.h"
 #include "prefs/settings_get_set.h"
 #include "render/fake_page_buffers.h"
@@ -74,6 +72,9 @@ inline void WriteEbook(const std::string& path, const std::string& text) {
   WriteFile(path, EbookFile("stub program", PackBody(PackableText(text, TextEncoding::kWindows1252),
                                                      "Author", "Title")));
 }
+
+// Page turns without the sweep, for tests that only care where they land.
+inline constexpr const char* kInstant = "INSTANTPAGETURN,True\r\n";
 
 // Numbered paragraphs of prose, long enough for many pages.
 inline std::string NumberedProse(int paragraphs) {

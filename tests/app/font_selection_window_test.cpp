@@ -9,7 +9,6 @@
 
 #include "app/font_selection_qt.h"
 #include "app/reader_window_fixture.h"
-#include "nav/bookmarks.h"
 
 namespace vireo {
 namespace {
@@ -29,50 +28,44 @@ void Click(QWidget* dialog, const char* button) {
   QApplication::processEvents();
 }
 
-TEST(FontSelection, AFontChosenFromTheLabelRepaginatesAtTheReadingPosition) {
-  test::ReaderWindow reader(test::SampleProse(120), test::kInstant);
+// Where the book reopens after a re-pagination is checked through the fake window.
+TEST(FontSelection, AFontChosenFromTheLabelRepaginatesAndCancelKeepsTheFont) {
+  test::ReaderWindow reader(test::NumberedProse(40), test::kInstant);
   reader.Start();
-  reader.logic().spread().ShowPage(9);
-  const int32_t shown_start = reader.logic().pages().PageStart(reader.logic().current_page());
-  bool shown = false;
-  QTimer::singleShot(0, [&] {
-    auto* dialog = qobject_cast<frmFontSel*>(QApplication::activeModalWidget());
-    if (dialog == nullptr) return;
-    shown = true;
-    Click(dialog, "optShowAll");
-    const auto found = FontList(dialog)->findItems("DejaVu Sans", Qt::MatchExactly);
+  // Opens the dialog from the menu or the label, shows all fonts and answers.
+  const auto choose = [&](bool from_menu, const std::function<void(frmFontSel&)>& answer) {
+    bool repaginated = false;
+    EXPECT_TRUE(test::Answering<frmFontSel>(
+        [&] {
+          repaginated = test::Repaginates(reader, [&] {
+            if (from_menu) reader.window().menu().Item("mnuSelectFont")->trigger();
+            if (!from_menu) QTest::mouseClick(reader.window().bar().Label1, Qt::LeftButton);
+          });
+        },
+        [&](frmFontSel& dialog) {
+          Click(&dialog, "optShowAll");
+          answer(dialog);
+        }))
+        << from_menu;
+    return repaginated;
+  };
+  EXPECT_FALSE(choose(true, [](frmFontSel& dialog) {
+    FontList(&dialog)->setCurrentRow(0);
+    Click(&dialog, "cmdCancel");
+  }));
+  EXPECT_EQ(reader.logic().preferences().font_name, "Times New Roman");
+  EXPECT_FALSE(sget("ShowAllFonts", false).ToBoolean());
+
+  EXPECT_TRUE(choose(false, [](frmFontSel& dialog) {
+    const auto found = FontList(&dialog)->findItems("DejaVu Sans", Qt::MatchExactly);
     ASSERT_FALSE(found.isEmpty());
-    FontList(dialog)->setCurrentItem(found.first());
-    Click(dialog, "cmdOK");
-  });
-  bool repaginated = test::Repaginates(
-      reader, [&] { QTest::mouseClick(reader.window().bar().Label1, Qt::LeftButton); });
-  ASSERT_TRUE(shown) << "the label opens the dialog";
+    FontList(&dialog)->setCurrentItem(found.first());
+    Click(&dialog, "cmdOK");
+  }));
   EXPECT_EQ(reader.logic().preferences().font_name, "DejaVu Sans");
-  EXPECT_TRUE(repaginated);
-  EXPECT_EQ(RetrieveBookmark(reader.book()), shown_start);
-  const PageIndex& pages = reader.logic().pages();
-  const int c = reader.logic().current_page();
-  EXPECT_LE(pages.PageStart(c - 1), shown_start);
-  EXPECT_TRUE(c + 1 > pages.count || pages.PageStart(c + 1) > shown_start);
   reader.logic().lifecycle().Quit();
   EXPECT_NE(test::ReadFile(reader.folder().File("Vireo.ini")).find("SHOWALLFONTS,True"),
             std::string::npos);
-}
-
-TEST(FontSelection, CancelKeepsTheFontAndTheListChoice) {
-  test::ReaderWindow reader(test::SampleProse(10), test::kInstant);
-  reader.Start();
-  QTimer::singleShot(0, [&] {
-    QWidget* dialog = QApplication::activeModalWidget();
-    if (dialog == nullptr) return;
-    Click(dialog, "optShowAll");
-    FontList(dialog)->setCurrentRow(0);
-    Click(dialog, "cmdCancel");
-  });
-  reader.window().menu().Item("mnuSelectFont")->trigger();
-  EXPECT_EQ(reader.logic().preferences().font_name, "Times New Roman");
-  EXPECT_FALSE(sget("ShowAllFonts", false).ToBoolean());
 }
 
 // Fonts that appear while the program runs.
@@ -83,14 +76,12 @@ class GrowingFonts : public FontSource {
   std::vector<std::string> names{"DejaVu Serif", "Verdana"};
 };
 
+// When the stored list is used rather than a new scan is the font choice's test.
 TEST(FontSelection, RescanFindsAFontAddedSinceTheLastScan) {
   ResetGlobalSettings();
   GrowingFonts fonts;
-  frmFontSel first(fonts, "Verdana", 0, 0);
-  EXPECT_EQ(Listed(&first), std::vector<std::string>{"Verdana"});
-  fonts.names.push_back("Georgia Pro");
   frmFontSel dialog(fonts, "Verdana", 0, 0);
-  EXPECT_EQ(Listed(&dialog), std::vector<std::string>{"Verdana"}) << "the stored list";
+  fonts.names.push_back("Georgia Pro");
   Click(&dialog, "cmdRescan");
   EXPECT_EQ(Listed(&dialog), (std::vector<std::string>{"Verdana", "Georgia Pro"}));
   EXPECT_EQ(FontList(&dialog)->currentItem()->text(), "Verdana");

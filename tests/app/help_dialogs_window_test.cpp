@@ -13,22 +13,11 @@
 namespace vireo {
 namespace {
 
-// Runs action and hands the first modal dialog of type Dialog that comes up to answer.
-template <typename Dialog>
-bool Answering(const std::function<void()>& action, const std::function<void(Dialog&)>& answer) {
-  bool answered = false;
-  test::WhileWatching(action, [&] {
-    auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-    if (answered || dialog == nullptr) return;
-    answered = true;
-    answer(*dialog);
-  });
-  return answered;
-}
+using test::Answering;
 
 TEST(DangerousQuestions, DeleteAnsweredByEnterKeepsTheBookFile) {
   QtUserInteraction person;
-  test::ReaderWindow reader(test::SampleProse(3), "", &person);
+  test::ReaderWindow reader(test::NumberedProse(10), "", &person);
   person.set_parent(&reader.window());
   reader.Start();
   QString asked;
@@ -40,19 +29,6 @@ TEST(DangerousQuestions, DeleteAnsweredByEnterKeepsTheBookFile) {
   EXPECT_TRUE(asked.startsWith("Do you really want to erase")) << asked.toStdString();
   EXPECT_TRUE(std::filesystem::exists(reader.book()));
   EXPECT_TRUE(reader.logic().book_pages().loaded);
-}
-
-TEST(AboutWindow, DescribesTheProgramAndTheBookOnShow) {
-  test::ReaderWindow reader(test::SampleProse(3));
-  reader.Start();
-  reader.window().bar().cmdAbout->click();
-  auto* about = reader.window().findChild<frmAbout*>("frmAbout");
-  ASSERT_NE(about, nullptr);
-  EXPECT_TRUE(about->isVisible());
-  EXPECT_TRUE(about->lblProgram->text().startsWith("Vireo "));
-  EXPECT_EQ(about->lblQt->text(), QString("Qt ") + qVersion());
-  EXPECT_TRUE(about->lblBook->text().startsWith("Title, by Author: "));
-  about->cmdOK->click();
 }
 
 TEST(ErrorReportForm, ShowsTheErrorAndLogAndOpensTheReportAndTheMail) {
@@ -77,9 +53,18 @@ TEST(ErrorReportForm, ShowsTheErrorAndLogAndOpensTheReportAndTheMail) {
   EXPECT_TRUE(opened[1].toString(QUrl::FullyEncoded).contains("I%20turned%20a%20page%0D%0A"));
 }
 
-TEST(ErrorReportForm, ComesUpWhenAnErrorReachesThePersonAndFromTheMenu) {
-  test::ReaderWindow reader(test::SampleProse(3));
+TEST(HelpDialogs, AboutDescribesTheBookAndTheErrorReportComesUpForAnErrorAndFromTheMenu) {
+  test::ReaderWindow reader(test::NumberedProse(10));
   reader.Start();
+  reader.window().bar().cmdAbout->click();
+  auto* about = reader.window().findChild<frmAbout*>("frmAbout");
+  ASSERT_NE(about, nullptr);
+  EXPECT_TRUE(about->isVisible());
+  EXPECT_TRUE(about->lblProgram->text().startsWith("Vireo "));
+  EXPECT_EQ(about->lblQt->text(), QString("Qt ") + qVersion());
+  EXPECT_TRUE(about->lblBook->text().startsWith("Title, by Author: "));
+  about->cmdOK->click();
+
   SetErrorObserver([&](const std::string& entry) { reader.window().help().ErrorReached(entry); });
   const auto shown_error = [&](const std::function<void()>& action) {
     QString error;

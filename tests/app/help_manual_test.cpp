@@ -57,10 +57,7 @@ TEST(Manual, TheContentsListFollowsTheContentsPage) {
   ASSERT_EQ(entries.size(), 2u);
   EXPECT_EQ(entries[0].target, "reading.html");
   EXPECT_EQ(entries[0].title, "Reading a book");
-  EXPECT_EQ(entries[1].target, "keys.html#f1");
-  const auto shipped =
-      ManualContents(test::ReadFile((kManual / std::string(kManualContentsPage)).string()));
-  EXPECT_GE(shipped.size(), 10u);
+  EXPECT_EQ(entries[1].target, "keys.html#f1");  // the shipped list is the help window's test
 }
 
 }  // namespace

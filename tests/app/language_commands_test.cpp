@@ -18,23 +18,13 @@ bool Printed(const test::FakeSurface& box, const std::string& text) {
   return std::find(texts.begin(), texts.end(), text) != texts.end();
 }
 
-class LanguageCommandsTest : public testing::Test {
- protected:
-  void SetUp() override { SetLanguage({}); }
-  void TearDown() override { SetLanguage({}); }
-  static void AddLanguages(const test::TempFolder& folder) {
-    const std::filesystem::path languages = folder.path() / "languages";
-    std::filesystem::create_directory(languages);
-    test::WriteFile(
-        (languages / "es.lng").string(),
-        "Language: Espa\xC3\xB1ol\nHints || Consejos\nLoading book || Cargando el libro\n");
-    test::WriteFile((languages / "de.lng").string(), "Language: Deutsch\nHints || Hinweise\n");
-  }
-};
-
-TEST_F(LanguageCommandsTest, AChosenLanguageIsShownRememberedAndLeftAgain) {
+// A remembered language kept across runs is the whole program's test.
+TEST(LanguageCommands, AChosenLanguageIsShownAndLeftAgainAndOneWhoseFileIsGoneGivesEnglish) {
   test::FakeReader reader("");
-  AddLanguages(reader.folder);
+  const std::filesystem::path languages = reader.folder.path() / "languages";
+  std::filesystem::create_directory(languages);
+  test::WriteFile((languages / "es.lng").string(), "Language: Espa\xC3\xB1ol\nHints || Consejos\n");
+  test::WriteFile((languages / "de.lng").string(), "Language: Deutsch\nHints || Hinweise\n");
   std::filesystem::remove(reader.book_path);  // no book: the title page is on show
   reader.Start();
   EXPECT_EQ(reader.view.languages, (std::vector<std::string>{"English", "Deutsch", "Espa\xF1ol"}));
@@ -49,26 +39,11 @@ TEST_F(LanguageCommandsTest, AChosenLanguageIsShownRememberedAndLeftAgain) {
 
   reader.logic.languages().ChooseLanguage(7);
   EXPECT_EQ(reader.view.chosen_language, 2) << "an index out of range changes nothing";
-  reader.logic.lifecycle().Quit();
-  EXPECT_NE(test::ReadFile(reader.folder.File("Vireo.ini")).find("LANGUAGE,es\r\n"),
-            std::string::npos);
-
   reader.logic.languages().ChooseLanguage(0);
   EXPECT_EQ(GetTranslation("Hints"), "Hints");
   EXPECT_EQ(reader.view.language_code, "");
-}
 
-TEST_F(LanguageCommandsTest, TheRememberedLanguageIsLoadedAtStartUpWhileItsFileIsThere) {
-  test::FakeReader spanish("", "LANGUAGE,es\r\n");
-  AddLanguages(spanish.folder);
-  spanish.Start();
-  EXPECT_EQ(spanish.view.chosen_language, 2);
-  EXPECT_NE(std::find(spanish.view.splash_status.begin(), spanish.view.splash_status.end(),
-                      "Cargando el libro"),
-            spanish.view.splash_status.end())
-      << "the splash speaks it from then on";
-
-  test::FakeReader gone("", "LANGUAGE,fr\r\n");
+  test::FakeReader gone("", "LANGUAGE,es\r\n");
   gone.Start();
   EXPECT_EQ(gone.view.languages, std::vector<std::string>{"English"});
   EXPECT_EQ(gone.view.chosen_language, 0);

@@ -13,7 +13,7 @@ namespace {
 std::string Text(QAction* item) { return item->text().toStdString(); }
 
 TEST(LanguageWindow, ChoosingALanguageTranslatesTheWindowAndEnglishBringsItBack) {
-  test::ReaderWindow reader(test::SampleProse(5));
+  test::ReaderWindow reader(test::NumberedProse(20));
   std::filesystem::copy(std::filesystem::path(test::BinFolder()) / "languages",
                         reader.folder().path() / "languages");
   reader.Start();

@@ -11,7 +11,7 @@
 namespace vireo {
 namespace {
 
-using test::Px;
+int Px(double twips) { return static_cast<int>(twips / 15 + 0.5); }
 
 constexpr QRgb kPaper = qRgb(255, 240, 224);  // PAPERCOLOUR 0xE0F0FF
 constexpr const char* kPlainPaper = "INKCOLOUR,0\r\nPAPERCOLOUR,14741759\r\nTEXTURENUM,-1\r\n";
@@ -28,7 +28,7 @@ QRect InkBounds(const QImage& image, int top, int bottom) {
 }
 
 TEST(BookOnScreen, InkStaysInTheTextAreaAndThePageNumberIsCentredAtTheFoot) {
-  test::ReaderWindow reader(test::SampleProse(30), kPlainPaper);
+  test::ReaderWindow reader(test::NumberedProse(120), kPlainPaper);
   reader.Start();
   EXPECT_EQ(reader.window().bar().lblPageNum->text(),
             QString::number(reader.logic().pages().count) + " pages");

@@ -13,7 +13,7 @@ namespace {
 using test::FakeReader;
 using ::testing::HasSubstr;
 
-constexpr const char* kInstant = "INSTANTPAGETURN,True\r\n";
+using test::kInstant;
 
 void Key(FakeReader& reader, int virtual_key) {
   reader.logic.commands().Form_KeyUp(virtual_key, ShiftKey::kUp);

@@ -26,7 +26,7 @@ int ColourCount(const QImage& picture, QRgb colour) {
 class PageSetupTest : public testing::Test {
  protected:
   explicit PageSetupTest(const std::string& settings = test::kInstant)
-      : reader(test::SampleProse(40), settings) {}
+      : reader(test::NumberedProse(160), settings) {}
 
   // The dialog as the Settings button fills it, shown.
   frmSettings& Open() {
@@ -69,13 +69,19 @@ class PageSetupTest : public testing::Test {
   frmSettings* shown = nullptr;  // the dialog the controls are found on
 };
 
-TEST_F(PageSetupTest, AColourConfirmedIsDrawnAndStoredAtShutdown) {
+// Where the book reopens after a re-pagination is checked through the fake window.
+TEST_F(PageSetupTest, AColourAndBordersConfirmedAreDrawnRepaginatedAndStored) {
   reader.Start();
+  const int count = reader.logic().pages().count;
   Open();
   ChangePaper();
+  Type("txtLeftBorder", "1000");
+  Type("txtRightBorder", "1000");
   EXPECT_EQ(dialog->form().Colour(PageColour::kPaper), 0x1E140Au);
-  Click("cmdOK");
+  EXPECT_TRUE(test::Repaginates(reader, [&] { Click("cmdOK"); }));
   EXPECT_FALSE(dialog->isVisible());
+  EXPECT_GT(reader.logic().pages().count, count);
+  EXPECT_EQ(sget("LeftBorder", 0).ToNumber(), 1000);
   EXPECT_EQ(PaperOnShow(), qRgb(10, 20, 30));
   test::Press(reader, Qt::Key_Space);
   const QImage next = test::BoxPicture(reader, kLeftPageBox);
@@ -88,15 +94,15 @@ TEST_F(PageSetupTest, AColourConfirmedIsDrawnAndStoredAtShutdown) {
 TEST_F(PageSetupTest, CancelFromTheSettingsButtonChangesNothing) {
   reader.Start();
   const QRgb before = PaperOnShow();
-  QTimer::singleShot(0, [&] {
-    shown = qobject_cast<frmSettings*>(QApplication::activeModalWidget());
-    if (shown == nullptr) return;
-    ChangePaper();
-    Type("txtLeftBorder", "900");
-    Click("cmdCancel");
-  });
-  QTest::mouseClick(reader.window().bar().cmdPageSetup, Qt::LeftButton);
-  EXPECT_NE(shown, nullptr) << "the button shows the dialog";
+  EXPECT_TRUE(test::Answering<frmSettings>(
+      [&] { QTest::mouseClick(reader.window().bar().cmdPageSetup, Qt::LeftButton); },
+      [&](frmSettings& settings) {
+        shown = &settings;
+        ChangePaper();
+        Type("txtLeftBorder", "900");
+        Click("cmdCancel");
+      }))
+      << "the button shows the dialog";
   EXPECT_EQ(PaperOnShow(), before);
   EXPECT_TRUE(reader.user().messages.empty());
   const std::string stored = StoredAfterQuit();
@@ -139,18 +145,6 @@ TEST_F(PageSetupTest, EachBorderIsCheckedAtItsLimits) {
       EXPECT_EQ(Find<QLineEdit>(c.box)->text(), c.typed) << "kept as typed";
     }
   }
-}
-
-// Where the book reopens after a re-pagination is checked through the fake window.
-TEST_F(PageSetupTest, ChangedBordersRepaginate) {
-  reader.Start();
-  const int count = reader.logic().pages().count;
-  Open();
-  Type("txtLeftBorder", "1000");
-  Type("txtRightBorder", "1000");
-  EXPECT_TRUE(test::Repaginates(reader, [&] { Click("cmdOK"); }));
-  EXPECT_GT(reader.logic().pages().count, count);
-  EXPECT_EQ(sget("LeftBorder", 0).ToNumber(), 1000);
 }
 
 class TexturedPageSetupTest : public PageSetupTest {

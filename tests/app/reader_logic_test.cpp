@@ -18,7 +18,7 @@ using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
 
-constexpr const char* kInstant = "INSTANTPAGETURN,True\r\n";
+using test::kInstant;
 
 TEST(ReaderLogic, StartUpShowsTheFirstSpreadAndCountsThePages) {
   FakeReader reader(test::NumberedProse(300), kInstant);
@@ -36,6 +36,20 @@ TEST(ReaderLogic, StartUpShowsTheFirstSpreadAndCountsThePages) {
   EXPECT_GT(at_start.hard_left.y2, at_start.hard_left.y1);
   reader.logic.view_commands().UpdateBookMode(false);
   EXPECT_EQ(reader.buffers.layout.lines, at_start);
+}
+
+TEST(ReaderLogic, TheBookOpensAtItsStoredPlaceAndExitStoresThePlaceOnShow) {
+  FakeReader reader(test::NumberedProse(300), kInstant);
+  test::WriteFile(reader.folder.File("BookMarks.ini"), "BOOK,20000\r\nOTHER BOOK,5000\r\n");
+  reader.Start();
+  const PageIndex& pages = reader.logic.pages();
+  const int right = reader.logic.current_page();
+  EXPECT_LE(pages.PageStart(right - 1), 20000);
+  EXPECT_GT(pages.PageStart(right + 1), 20000);
+  reader.logic.commands().Form_KeyUp(vk::kSpace, ShiftKey::kUp);
+  reader.logic.lifecycle().Quit();
+  EXPECT_EQ(test::ReadFile(reader.folder.File("BookMarks.ini")),
+            "BOOK," + std::to_string(pages.PageStart(right + 2)) + "\r\nOTHER BOOK,5000\r\n");
 }
 
 TEST(ReaderLogic, KeysAndExitAreDroppedWhilePaginatingAndWorkAfterwards) {
@@ -236,21 +250,6 @@ TEST(ReaderLogic, ADroppedBookLoadsWithItsProgressShownAfterTheSplash) {
   reader.logic.commands().Page_OLEDragDrop(reader.folder.File("picture.png"));
   EXPECT_EQ(reader.user.messages.back(), "Cannot load that type of file");
   EXPECT_EQ(reader.view.caption, "Second.txt") << "the book on show stays";
-}
-
-TEST(ReaderLogic, ARightClickOpensTheMenuAndAShiftClickMarksALine) {
-  FakeReader reader(test::NumberedProse(300), kInstant);
-  reader.Start();
-  const auto click = [&](PageMouseEventKind kind, PageMouseButton button, bool shift) {
-    reader.logic.commands().Page_Mouse({kind, kRightPageBox, button, shift, false, 1000});
-  };
-  click(PageMouseEventKind::kUp, PageMouseButton::kRight, false);
-  EXPECT_EQ(reader.view.context_menus, 1);
-  click(PageMouseEventKind::kDown, PageMouseButton::kLeft, true);
-  EXPECT_EQ(reader.buffers.marker_frame, kRightPageBox);
-  click(PageMouseEventKind::kUp, PageMouseButton::kLeft, true);
-  EXPECT_EQ(reader.buffers.marker_frame, -1);
-  EXPECT_EQ(reader.logic.current_page(), 2) << "a shift-click turns no page";
 }
 
 TEST(ReaderLogic, ABookLoadsWithItsStepsInTheLogAndAFileWithoutOneSaysSo) {

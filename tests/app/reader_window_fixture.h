@@ -2,43 +2,17 @@
 
 #include <QApplication>
 #include <QDropEvent>
-#include <QImage>
 #include <QMimeData>
 #include <QTest>
 #include <QTimer>
 #include <QUrl>
-#include <filesystem>
 #include <functional>
 #include <memory>
-#include <optional>
-#include <string>
-#include <vector>
 
 #include "app/fake_window.h"
 #include "app/main_window.h"
-#include "book/book_maker.h"
-#include "prefs/settings_get_set.h"
-#include "support/logging.h"
-#include "support/user_interaction.h"
-#include "test_support.h"
 
 namespace vireo::test {
-
-// Prose long enough for a few pages: numbered sentences in paragraphs.
-inline std::string SampleProse(int paragraphs) {
-  std::string text;
-  for (int p = 1; p <= paragraphs; ++p) {
-    for (int s = 1; s <= 6; ++s) {
-      text += "Sentence " + std::to_string(s) + " of paragraph " + std::to_string(p) +
-              " goes on for a little while before it stops. ";
-    }
-    text += "\r\n\r\n";
-  }
-  return text;
-}
-
-// Page turns without the sweep, for tests that only care where they land.
-inline constexpr const char* kInstant = "INSTANTPAGETURN,True\r\n";
 
 // The real main window, offscreen, in its own program folder with an ebook of `text`. The
 // person is a FakeUser unless another is given.
@@ -89,8 +63,6 @@ class ReaderWindow {
   std::unique_ptr<MainWindow> window_;
 };
 
-inline int Px(double twips) { return static_cast<int>(twips / 15 + 0.5); }
-
 // A released key on the window, as a person types it.
 inline void Press(ReaderWindow& reader, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
   QTest::keyClick(&reader.window(), key, modifiers);
@@ -110,6 +82,20 @@ inline void WhileWatching(const std::function<void()>& action, const std::functi
   watch.start();
   action();
   watch.stop();
+}
+
+// Runs action and hands the first modal dialog of type Dialog that comes up to answer;
+// gives whether one came up.
+template <typename Dialog>
+bool Answering(const std::function<void()>& action, const std::function<void(Dialog&)>& answer) {
+  bool answered = false;
+  WhileWatching(action, [&] {
+    auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+    if (answered || dialog == nullptr) return;
+    answered = true;
+    answer(*dialog);
+  });
+  return answered;
 }
 
 // Whether the book was paginated while action ran.

@@ -36,17 +36,17 @@ void EnterTerm(test::ReaderWindow& reader, const std::string& term) {
 }
 
 TEST(SearchWindow, ANewTermRedrawsInPlaceAndABlankOneSearchesNothing) {
-  test::ReaderWindow reader(test::SampleProse(60), kRedMatches);
+  test::ReaderWindow reader(test::NumberedProse(250), kRedMatches);
   reader.Start();
   ASSERT_EQ(reader.logic().current_page(), 2);
   EXPECT_EQ(RedPixels(reader, kLeftPageBox), 0);
-  EnterTerm(reader, "paragraph 1 goes");
-  EXPECT_EQ(reader.window().bar().lblSearch->text(), "paragraph 1 goes");
+  EnterTerm(reader, "paragraph 1 tells");
+  EXPECT_EQ(reader.window().bar().lblSearch->text(), "paragraph 1 tells");
   EXPECT_EQ(reader.logic().current_page(), 2) << "no search is made";
   EXPECT_GT(RedPixels(reader, kLeftPageBox), 100) << "page 1 holds paragraph 1";
 
   EnterTerm(reader, "");
-  EXPECT_EQ(reader.window().bar().lblSearch->text(), "paragraph 1 goes") << "an empty answer";
+  EXPECT_EQ(reader.window().bar().lblSearch->text(), "paragraph 1 tells") << "an empty answer";
   EnterTerm(reader, "   ");
   const size_t messages = reader.user().messages.size();
   Press(reader, Qt::Key_N);

@@ -17,7 +17,7 @@ using test::FakeReader;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
-constexpr const char* kInstant = "INSTANTPAGETURN,True\r\n";
+using test::kInstant;
 
 std::string PageWords(FakeReader& reader, int page) {
   return Utf8FromWindows1252(
@@ -28,12 +28,11 @@ TEST(Services, TheItemsThatNeedABookAreEnabledOnlyWhileOneIsOpen) {
   FakeReader reader(test::NumberedProse(40), kInstant);
   reader.view.enabled_items.clear();
   reader.Start();
-  for (const char* item : {"mnuSave", "mnuCopyPage", "mnuPrint", "mnuReadAloud"}) {
-    EXPECT_TRUE(reader.view.enabled_items[item]) << item;
-  }
-  reader.logic.book().CloseBook();
-  for (const char* item : {"mnuSave", "mnuCopyPage", "mnuPrint", "mnuReadAloud"}) {
-    EXPECT_FALSE(reader.view.enabled_items[item]) << item;
+  for (const bool open : {true, false}) {
+    if (!open) reader.logic.book().CloseBook();
+    for (const char* item : {"mnuSave", "mnuCopyPage", "mnuPrint", "mnuReadAloud"}) {
+      EXPECT_EQ(reader.view.enabled_items[item], open) << item;
+    }
   }
 }
 
@@ -68,8 +67,7 @@ TEST(Services, CopyPageTakesThePageUnderTheMenuElseTheRightOrOnlyPage) {
   }
 }
 
-// The exported text, made into a book again, loads as the same book text; the UTF-8 export
-// is the same text in the other encoding.
+// The exported text, made into a book again, loads as the same book text.
 TEST(Services, ExportRoundTripsTheBookTextInBothEncodings) {
   const std::string text = "Caf\xe9 \x93quoted\x94 words.\r\n\r\nA second paragraph.\r\n\r\n";
   FakeReader reader(text + test::NumberedProse(5), kInstant);
@@ -88,28 +86,13 @@ TEST(Services, ExportRoundTripsTheBookTextInBothEncodings) {
   EXPECT_EQ(again.logic.book_pages().text, reader.logic.book_pages().text);
 }
 
-TEST(Services, ExportRefusesToWriteOverTheProgramAndLeavesItAlone) {
-  FakeReader reader(test::NumberedProse(5), kInstant);
-  reader.Start();
-  const std::string before = test::ReadFile(reader.book_path);
-  reader.view.services.save_answer = FileChoice{reader.book_path, 0};
-  reader.logic.services().mnuSave_Click();
-  EXPECT_THAT(reader.user.messages.back(), HasSubstr("over the program"));
-  EXPECT_EQ(test::ReadFile(reader.book_path), before);
-}
-
-TEST(Services, WebPagesOpenTheirSettingOrTheHomePage) {
-  FakeReader reader(test::NumberedProse(5), "PAYAUTHORADDRESS,https://pay.example\r\n");
+TEST(Services, WebPagesHelpAndPrintGoToTheirServices) {
+  FakeReader reader(test::NumberedProse(40), "PAYAUTHORADDRESS,https://pay.example\r\n");
   reader.Start();
   reader.logic.services().mnuPayAuthor_Click();
   reader.logic.services().mnuCheckUpdate_Click();
   EXPECT_THAT(reader.view.services.opened,
               testing::ElementsAre("https://pay.example", "https://vireo-reader.example.org"));
-}
-
-TEST(Services, HelpAndPrintGoToTheirServices) {
-  FakeReader reader(test::NumberedProse(40), kInstant);
-  reader.Start();
   reader.logic.commands().Form_KeyUp(vk::kF1, ShiftKey::kUp);
   reader.logic.services().mnuPrint_Click();
   EXPECT_EQ(reader.view.services.manuals, 1);
@@ -117,30 +100,33 @@ TEST(Services, HelpAndPrintGoToTheirServices) {
               testing::ElementsAre(reader.logic.pages().count));
 }
 
-TEST(ReadAloud, WithoutAnEngineThePersonIsToldWhatToInstall) {
-  FakeReader reader(test::NumberedProse(40), kInstant);
-  reader.Start();
-  reader.view.services.speech.installed = false;
-  reader.logic.services().read_aloud().Start();
-  EXPECT_THAT(reader.user.messages.back(), HasSubstr("qt6-speech-flite-plugin"));
-  EXPECT_FALSE(reader.logic.services().read_aloud().reading());
-}
-
-TEST(ReadAloud, AShiftClickSpeaksTheMarkedLine) {
+// A right-click opens the menu; a shift-click marks a line while held, then speaks it.
+TEST(ReadAloud, AShiftClickSpeaksTheMarkedLineAndWithoutAnEngineThePersonIsToldWhatToInstall) {
   FakeReader reader(test::NumberedProse(40), kInstant);
   reader.Start();
   const PageTextArea& area = reader.logic.spread().text_area();
-  const double third_line = area.top_border + 2.5 * area.line_pitch;
-  for (const PageMouseEventKind kind : {PageMouseEventKind::kDown, PageMouseEventKind::kUp}) {
+  const auto click = [&](PageMouseEventKind kind, PageMouseButton button, bool shift) {
     reader.logic.commands().Page_Mouse(
-        {kind, kLeftPageBox, PageMouseButton::kLeft, true, false, third_line});
-  }
+        {kind, kLeftPageBox, button, shift, false, area.top_border + 2.5 * area.line_pitch});
+  };
+  click(PageMouseEventKind::kUp, PageMouseButton::kRight, false);
+  EXPECT_EQ(reader.view.context_menus, 1);
+  click(PageMouseEventKind::kDown, PageMouseButton::kLeft, true);
+  EXPECT_EQ(reader.buffers.marker_frame, kLeftPageBox);
+  click(PageMouseEventKind::kUp, PageMouseButton::kLeft, true);
+  EXPECT_EQ(reader.buffers.marker_frame, -1);
+  EXPECT_EQ(reader.logic.current_page(), 2) << "a shift-click turns no page";
   const std::vector<std::string> lines =
       reader.logic.spread().plotter().PageLines(reader.logic.current_page() - 1);
   ASSERT_GE(lines.size(), 3u);
   EXPECT_THAT(
       reader.view.services.speech.said,
       testing::ElementsAre(Utf8FromWindows1252(PlainBookText(lines[2], ItalicMarks::kDropped))));
+
+  reader.view.services.speech.installed = false;
+  reader.logic.services().read_aloud().Start();
+  EXPECT_THAT(reader.user.messages.back(), HasSubstr("qt6-speech-flite-plugin"));
+  EXPECT_FALSE(reader.logic.services().read_aloud().reading());
 }
 
 TEST(ReadAloud, ReadingGoesOnPageAfterPageAndTurnsThemInEitherMode) {

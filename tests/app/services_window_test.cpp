@@ -12,8 +12,8 @@ namespace {
 
 using test::kInstant;
 
-TEST(HelpWindow, F1OpensTheManualWhoseContentsAndBackAndForwardMoveThroughIt) {
-  test::ReaderWindow reader(test::SampleProse(20), kInstant);
+TEST(ServicesWindow, F1OpensTheManualWhoseContentsMoveThroughItAndCopyPageFillsTheClipboard) {
+  test::ReaderWindow reader(test::NumberedProse(80), kInstant);
   std::filesystem::copy(std::filesystem::path(test::BinFolder()) / "manual",
                         reader.folder().path() / "manual");
   reader.Start();
@@ -31,25 +31,18 @@ TEST(HelpWindow, F1OpensTheManualWhoseContentsAndBackAndForwardMoveThroughIt) {
   help->browser()->backward();
   EXPECT_TRUE(help->browser()->source().path().endsWith("manual/index.html"));
   EXPECT_TRUE(help->browser()->isForwardAvailable());
-}
+  help->close();
 
-TEST(CopyPage, ThePageUnderTheMenuGoesToTheClipboardAsPictureAndText) {
-  test::ReaderWindow reader(test::SampleProse(20), kInstant);
-  reader.Start();
+  // Copy Page: the page under the menu goes to the clipboard as picture and text.
   reader.logic().commands().Page_Mouse(
       {PageMouseEventKind::kUp, kLeftPageBox, PageMouseButton::kRight, false, false, 1000});
   reader.window().menu().hide();
   test::Trigger(reader, "mnuCopyPage");
   const QMimeData* copied = QApplication::clipboard()->mimeData();
   ASSERT_NE(copied, nullptr);
-  EXPECT_EQ(qvariant_cast<QImage>(copied->imageData()),
-            reader.window()
-                .canvas()
-                .BoxImage(kLeftPageBox)
-                .convertToFormat(QImage::Format_RGB32)
-                .convertToFormat(qvariant_cast<QImage>(copied->imageData()).format()));
-  EXPECT_TRUE(copied->text().startsWith("Sentence 1 of paragraph 1 "))
-      << copied->text().toStdString();
+  const QImage image = qvariant_cast<QImage>(copied->imageData());
+  EXPECT_EQ(image, test::BoxPicture(reader, kLeftPageBox).convertToFormat(image.format()));
+  EXPECT_TRUE(copied->text().startsWith("Paragraph 1 tells ")) << copied->text().toStdString();
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QTest>
-#include <QWheelEvent>
 
 #include "app/main_window.h"
 #include "app/reader_window_fixture.h"
@@ -32,7 +31,7 @@ void ClickPage(test::ReaderWindow& reader, int frame, Qt::KeyboardModifiers modi
 }
 
 TEST(TurningWithTheMouse, RightPageForwardLeftPageBackAndInSinglePageModeCtrlBack) {
-  test::ReaderWindow reader(test::SampleProse(60), test::kInstant);
+  test::ReaderWindow reader(test::NumberedProse(250), test::kInstant);
   reader.Start();
   ASSERT_GT(reader.logic().pages().count, 8);
   EXPECT_EQ(reader.logic().current_page(), 2);
@@ -52,7 +51,7 @@ TEST(TurningWithTheMouse, RightPageForwardLeftPageBackAndInSinglePageModeCtrlBac
 }
 
 TEST(TurningWithTheMouse, AnAnimatedTurnDrawsItsStepsAndEndsOnTheNextSpread) {
-  test::ReaderWindow reader(test::SampleProse(40), "PAGESWEEPWIDTH,600\r\n");
+  test::ReaderWindow reader(test::NumberedProse(160), "PAGESWEEPWIDTH,600\r\n");
   reader.Start();
   ClearActions();  // loading leaves its own entries (the pictures loaded)
   PaintCounter canvas(&reader.window().canvas());
@@ -72,31 +71,6 @@ TEST(TurningWithTheMouse, AnAnimatedTurnDrawsItsStepsAndEndsOnTheNextSpread) {
   EXPECT_FALSE(reader.window().canvas().BoxVisible(kRightWorkBox)) << "work boxes hidden again";
   EXPECT_EQ(reader.window().bar().Shape1->colour(), LampColour(Lamp::kGrey)) << "idle again";
   EXPECT_EQ(Actions().position, 0) << Actions().text[1];
-}
-
-// The window's own translation of the keys and the wheel; their effect in both page modes
-// is the reader logic's test.
-TEST(TurningWithTheKeysAndTheWheel, PageKeysHomeEndAndWholeNotches) {
-  test::ReaderWindow reader(test::SampleProse(60), test::kInstant);
-  reader.Start();
-  test::Press(reader, Qt::Key_PageDown);
-  EXPECT_EQ(reader.logic().current_page(), 4);
-  test::Press(reader, Qt::Key_End);
-  EXPECT_GE(reader.logic().current_page(), reader.logic().pages().count);
-  test::Press(reader, Qt::Key_Home);
-  EXPECT_EQ(reader.logic().current_page(), 2);
-  const auto wheel = [&](int eighths_of_a_degree) {
-    const QPointF at(10, 10);
-    QWheelEvent event(at, at, {}, {0, eighths_of_a_degree}, Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&reader.window(), &event);
-  };
-  wheel(-60);
-  EXPECT_EQ(reader.logic().current_page(), 2) << "half a notch turns nothing yet";
-  wheel(-60);
-  EXPECT_EQ(reader.logic().current_page(), 4);
-  wheel(120);
-  EXPECT_EQ(reader.logic().current_page(), 2);
 }
 
 }  // namespace
