@@ -15,28 +15,12 @@ struct Rgb {
   uint8_t r, g, b;
 };
 
-void AppendLittleEndian(std::string& out, uint32_t value, int bytes) {
-  for (int i = 0; i < bytes; ++i) out += static_cast<char>((value >> (8 * i)) & 0xFF);
-}
-
-// A BMP file of one colour (24 bits, rows padded to four bytes).
-std::string SolidBmp(int width, int height, Rgb colour) {
-  const int row = (width * 3 + 3) / 4 * 4;
-  std::string bmp = "BM";
-  AppendLittleEndian(bmp, 54 + row * height, 4);
-  AppendLittleEndian(bmp, 0, 4);
-  AppendLittleEndian(bmp, 54, 4);
-  for (const uint32_t field : {40u, uint32_t(width), uint32_t(height)}) {
-    AppendLittleEndian(bmp, field, 4);
-  }
-  AppendLittleEndian(bmp, 1, 2);
-  AppendLittleEndian(bmp, 24, 2);
-  for (int i = 0; i < 6; ++i) AppendLittleEndian(bmp, 0, 4);
-  std::string pixels;
-  for (int x = 0; x < width; ++x) pixels += {char(colour.b), char(colour.g), char(colour.r)};
-  pixels.resize(static_cast<size_t>(row), '\0');
-  for (int y = 0; y < height; ++y) bmp += pixels;
-  return bmp;
+// A binary PPM picture of one colour.
+std::string SolidPpm(int width, int height, Rgb colour) {
+  std::string ppm = "P6\n" + std::to_string(width) + " " + std::to_string(height) + "\n255\n";
+  for (int pixel = 0; pixel < width * height; ++pixel)
+    ppm += {char(colour.r), char(colour.g), char(colour.b)};
+  return ppm;
 }
 
 // Pixels of a binary PPM (P6) of the given colour.
@@ -64,18 +48,18 @@ TEST(BookPictures, PackedPicturesAndCoverShowWithoutFilesBesideTheBook) {
   test::ProgramFolder program;
   test::TempFolder maker;
   std::filesystem::create_directory(maker.path() / "pics");
-  test::WriteFile(maker.File("pics/Dot.bmp"), SolidBmp(60, 40, kPictureColour));
-  test::WriteFile(maker.File("cover.bmp"), SolidBmp(30, 40, kCoverColour));
+  test::WriteFile(maker.File("pics/Dot.ppm"), SolidPpm(60, 40, kPictureColour));
+  test::WriteFile(maker.File("cover.ppm"), SolidPpm(30, 40, kCoverColour));
   std::string text;
   for (int i = 1; i <= 60; ++i) {
     text += "Paragraph " + std::to_string(i) + " runs on for a line or two of words.\r\n\r\n";
-    text += "[IMG SRC=\"PICS/dot.BMP\"]\r\n\r\n";
+    text += "[IMG SRC=\"PICS/dot.PPM\"]\r\n\r\n";
   }
   test::WriteFile(maker.File("book.txt"), text);
   const auto made =
       test::Run(program.Path("vireo-tool") + " make " + maker.File("book.txt") + " -o " +
                     program.Path("Book") + " --stub " + program.Path("Vireo") + " --images " +
-                    maker.str() + " --cover " + maker.File("cover.bmp"),
+                    maker.str() + " --cover " + maker.File("cover.ppm"),
                 {}, maker);
   ASSERT_EQ(made.status, 0) << made.err;
 
