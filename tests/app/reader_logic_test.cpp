@@ -52,11 +52,12 @@ TEST(ReaderLogic, TheBookOpensAtItsStoredPlaceAndExitStoresThePlaceOnShow) {
             "BOOK," + std::to_string(pages.PageStart(right + 2)) + "\r\nOTHER BOOK,5000\r\n");
 }
 
-TEST(ReaderLogic, KeysAndExitAreDroppedWhilePaginatingAndWorkAfterwards) {
+TEST(ReaderLogic, KeysExitAndResizesAreDroppedWhilePaginatingAndKeysWorkAfterwards) {
   FakeReader reader(test::NumberedProse(300), kInstant);
   reader.Start();
   const int32_t place = reader.logic.pages().PageStart(2);
   const size_t messages = reader.user.messages.size();
+  const WindowSize size = reader.view.size;
   bool during = false;
   reader.pump.on_yield = [&] {
     if (during || !reader.logic.paginator_busy() || reader.logic.reindexing()) return;
@@ -66,6 +67,8 @@ TEST(ReaderLogic, KeysAndExitAreDroppedWhilePaginatingAndWorkAfterwards) {
     }
     reader.logic.lifecycle().Quit();
     reader.logic.view_commands().cmdSmallerFont_Click();
+    reader.view.size = {size.width + 3000, size.height + 2000};
+    reader.logic.view_commands().Form_Resize();
   };
   reader.logic.view_commands().cmdBiggerFont_Click();
   reader.pump.on_yield = nullptr;
@@ -75,6 +78,7 @@ TEST(ReaderLogic, KeysAndExitAreDroppedWhilePaginatingAndWorkAfterwards) {
   EXPECT_LE(reader.logic.pages().PageStart(right - 1), place) << "no page was turned";
   EXPECT_GT(reader.logic.pages().PageStart(right + 1), place);
   EXPECT_TRUE(reader.view.bar_visible);
+  EXPECT_EQ(reader.view.size, size) << "the resize is undone";
   EXPECT_FALSE(reader.logic.preferences().single_page_mode);
   EXPECT_EQ(reader.user.messages.size(), messages);
   EXPECT_EQ(reader.view.end_status, -1) << "Exit waits for the pagination";
@@ -138,7 +142,7 @@ TEST(ReaderLogic, TheBarAndThePageModeLayTheBookOutAgain) {
   EXPECT_GT(pages.PageStart(right + 1), place) << "the spread that holds the place";
 }
 
-TEST(ReaderLogic, TheWindowKeepsItsSmallestSizeAndAResizeWhilePaginatingIsUndone) {
+TEST(ReaderLogic, TheWindowKeepsItsSmallestSize) {
   FakeReader reader(test::NumberedProse(300), kInstant);
   reader.Start();
   const auto resize = [&](double width, double height) {
@@ -151,18 +155,6 @@ TEST(ReaderLogic, TheWindowKeepsItsSmallestSizeAndAResizeWhilePaginatingIsUndone
   reader.logic.view_commands().ToggleBar();
   EXPECT_EQ(resize(5000, 6570).width, 5000) << "without the bar 5000 twips is enough";
   EXPECT_EQ(resize(2000, 6570).width, 3500) << "but not less than 3500";
-
-  const WindowSize before = resize(10000, 7000);
-  bool during = false;
-  reader.pump.on_yield = [&] {
-    if (during || !reader.logic.paginator_busy()) return;
-    during = true;
-    resize(13000, 9000);
-  };
-  reader.logic.view_commands().cmdBiggerFont_Click();
-  reader.pump.on_yield = nullptr;
-  ASSERT_TRUE(during);
-  EXPECT_EQ(reader.view.size, before);
 }
 
 TEST(ReaderLogic, TheFormattingMenuReloadsTheBookWithItsOptions) {
