@@ -89,7 +89,7 @@ TEST(OpeningFiles, ANamedFileOpensAsADroppedOneAndAnEbookNeedsNoBookType) {
       << "a drop keeps to the book types";
 }
 
-TEST(FileTypeRegistration, NamesTheReaderNeverAnEbookCopyNorATemporaryOne) {
+TEST(FileTypeRegistration, NamesTheReaderNeverACopyAndQuotesAnOddPathOnOneLine) {
   const auto reader_at = [](const std::string& folder) {
     return [folder](const std::string& path) { return path == folder + "/Vireo"; };
   };
@@ -109,9 +109,8 @@ TEST(FileTypeRegistration, NamesTheReaderNeverAnEbookCopyNorATemporaryOne) {
   for (const Case& c : cases) {
     EXPECT_EQ(RegistrationTarget(c.running, "/tmp", c.exists), c.target) << c.running;
   }
-}
 
-TEST(FileTypeRegistration, AnOddReaderPathStaysOneArgumentOnOneLine) {
+  // An odd reader path stays one argument on one line.
   test::TempFolder folder;
   setenv("XDG_DATA_HOME", folder.File("xdg").c_str(), 1);
   ASSERT_TRUE(
