@@ -41,9 +41,9 @@ TEST(ReaderKeys, EveryKeyOfTheMapAndWholeWheelNotchesGiveTheirCommands) {
                       Qt::NoScrollPhase, false);
     QApplication::sendEvent(&reader.window(), &event);
   };
-  for (const auto& [eighths, page] : {std::pair{-60, 2}, {-60, 4}, {120, 2}}) {
+  for (const auto& [eighths, page] : {std::pair{-60, 2}, {-60, 4}, {120, 2}}) {  // half, whole
     wheel(eighths);
-    EXPECT_EQ(reader.logic().current_page(), page) << "half a notch turns nothing yet";
+    EXPECT_EQ(reader.logic().current_page(), page) << eighths;
   }
   Press(reader, Qt::Key_End);
   EXPECT_GE(reader.logic().current_page(), reader.logic().pages().count);

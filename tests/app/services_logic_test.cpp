@@ -67,7 +67,8 @@ TEST(Services, CopyPageTakesThePageUnderTheMenuElseTheRightOrOnlyPage) {
   }
 }
 
-// The exported text, made into a book again, loads as the same book text.
+// The exported text, made into a book again, loads as the same book text; the UTF-8 export
+// is the same text in the other encoding.
 TEST(Services, ExportRoundTripsTheBookTextInBothEncodings) {
   const std::string text = "Caf\xe9 \x93quoted\x94 words.\r\n\r\nA second paragraph.\r\n\r\n";
   FakeReader reader(text + test::NumberedProse(5), kInstant);
