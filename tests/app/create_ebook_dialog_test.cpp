@@ -34,8 +34,10 @@ TEST(CreateEbookDialog, AChosenTextIsMadeIntoAPackedBookThatOpens) {
   EXPECT_EQ(dialog->txtTitle->text(), "The Small Book");
   EXPECT_EQ(dialog->txtAuthor->text(), "Ann Writer");
   EXPECT_EQ(dialog->txtOut->text().toStdString(), reader.folder().File("small"));
+  EXPECT_EQ(dialog->txtPictures->text().toStdString(), reader.folder().str());
   dialog->optBrn->click();
   EXPECT_EQ(dialog->txtOut->text().toStdString(), reader.folder().File("small.brn"));
+  EXPECT_FALSE(dialog->txtPictures->isEnabled()) << "a packed book alone carries no pictures";
 
   reader.user().yes = true;  // open it
   QTest::mouseClick(dialog->cmdMake, Qt::LeftButton);
