@@ -50,6 +50,14 @@ TEST_F(CommandLine, APackedBookOrAnEbookNamedOnTheCommandLineOpensAsItsOwnEbookD
   EXPECT_NE(test::ReadFile(program_.Path("bare.png")), ebook);
 }
 
+TEST_F(CommandLine, OpenAsksTheCommonFileDialogWhichTheUnattendedRunAnswers) {
+  const std::string book = program_.Path("story.brn");
+  const auto run = test::StartAndQuit(program_, "Vireo",
+                                      {"VIREO_MENU=mnuOpen", "VIREO_ANSWER_FILE=" + book});
+  EXPECT_THAT(run.err, HasSubstr("[file] Open a book: " + book));
+  EXPECT_THAT(program_.Log(), HasSubstr("Loading from: " + book));
+}
+
 TEST_F(CommandLine, AFileOfAnotherTypeGetsTheDropsMessage) {
   test::WriteFile(program_.Path("notes.doc"), "a document");
   const auto run = Screenshot("Vireo", program_.Path("notes.doc"), "window.png");
