@@ -9,31 +9,22 @@
 #include "book/book_reader.h"
 #include "book/load_file.h"
 #include "book/plain_text_fallback.h"
-#include "support/windows1252.h"
-#include "sample_text.h"
 #include "book/replace_known_char_reference.h"
+#include "sample_text.h"
+#include "support/windows1252.h"
 #include "test_support.h"
 
 namespace vireo {
 namespace {
 
-const std::string kStub = "\x7f" "ELF stub\x01\x02 not a real program\n";
+const std::string kStub =
+    "\x7f"
+    "ELF stub\x01\x02 not a real program\n";
 
 class RoundTrip : public ::testing::Test {
  protected:
-  // Packs a Windows-1252 text into an ebook file and reads it back.
-  BookReadResult MakeAndRead(const std::string& text, const FormattingOptions& options,
-                             const std::string& author = "An Author",
-                             const std::string& title = "A Title") {
-    const std::string body = PackBody(PackableText(text, TextEncoding::kWindows1252),
-                                      PackableDetail(author, TextEncoding::kWindows1252),
-                                      PackableDetail(title, TextEncoding::kWindows1252));
-    test::WriteFile(path_, EbookFile(kStub, body));
-    return ReadEmbeddedBook(path_, options);
-  }
-
-  // What the reader shows is the reformatted text, the formatting codes' characters
-  // written as plain text.
+  // What the reader shows of a packed Windows-1252 text is the reformatted text, the
+  // formatting codes' characters written as plain text.
   void ExpectRoundTrip(const std::string& text, const std::string& what) {
     std::string plain;
     for (const char c : text) {
@@ -44,7 +35,10 @@ class RoundTrip : public ::testing::Test {
     for (const FormattingOptions& options : test::AllFormattingOptions()) {
       std::string expected = plain;
       test::ReplaceKnownCharStepByStep(expected, options);
-      const BookReadResult book = MakeAndRead(text, options);
+      test::WriteFile(path_,
+                      EbookFile(kStub, PackBody(PackableText(text, TextEncoding::kWindows1252),
+                                                "An Author", "A Title")));
+      const BookReadResult book = ReadEmbeddedBook(path_, options);
       ASSERT_TRUE(book.has_book) << what;
       ASSERT_EQ(book.text, expected)
           << what << " options " << options.reformat << options.underscores << options.extra_line;
@@ -71,28 +65,9 @@ TEST_F(RoundTrip, HostilePieces) {
                 {"&amp;", "&#201;", "&eacute;", "&#x41;", "\xC9", " \xC8", "\xA9", "\xB3", "f0",
                  "f 0", "the", "There", "tre", "\xFF", std::string(1, '\0'), "&#", ";", "tion"});
   for (int round = 0; round < 15; ++round) {
-    ExpectRoundTrip(samples::RandomFromPieces(random, pieces, 400), "round " + std::to_string(round));
+    ExpectRoundTrip(samples::RandomFromPieces(random, pieces, 400),
+                    "round " + std::to_string(round));
   }
-}
-
-TEST_F(RoundTrip, TheDetailsComeBack) {
-  // Word codes (201, 233), 169 and "&" travel as references.
-  const std::string author = "M\xE9lanie & Co &amp; \xC8";
-  const BookReadResult book = MakeAndRead("text", {}, author, "\xC9t\xE9 \xA9 2001");
-  EXPECT_EQ(book.author, author);
-  EXPECT_EQ(book.stored_title, "\xC9t\xE9 \xA9 2001");
-  EXPECT_EQ(book.title, "Book");
-}
-
-TEST(PackableText, DetectsUtf8AndConvertsItToWindows1252) {
-  EXPECT_EQ(DetectEncoding("caf\xE9"), TextEncoding::kWindows1252);
-  const std::string utf8 =
-      "\xEF\xBB\xBF"
-      "caf\xC3\xA9 \xE2\x82\xAC \xCE\xB1 \xC2\x85!";
-  ASSERT_EQ(DetectEncoding(utf8), TextEncoding::kUtf8);
-  // The word code 233 becomes a reference; the euro sign's byte is a formatting code; alpha
-  // and the C1 control 133 have no character.
-  EXPECT_EQ(PackableText(utf8, TextEncoding::kUtf8), "caf&#233; EUR ? ?!");
 }
 
 class MakeEbookTest : public ::testing::Test {
