@@ -9,17 +9,15 @@
 #include "book/book_reader.h"
 #include "book/load_file.h"
 #include "book/plain_text_fallback.h"
-#include "book/replace_known_char_reference.h"
-#include "sample_text.h"
 #include "support/windows1252.h"
+#include "sample_text.h"
+#include "book/replace_known_char_reference.h"
 #include "test_support.h"
 
 namespace vireo {
 namespace {
 
-const std::string kStub =
-    "\x7f"
-    "ELF stub\x01\x02 not a real program\n";
+const std::string kStub = "\x7f" "ELF stub\x01\x02 not a real program\n";
 
 class RoundTrip : public ::testing::Test {
  protected:
@@ -65,8 +63,7 @@ TEST_F(RoundTrip, HostilePieces) {
                 {"&amp;", "&#201;", "&eacute;", "&#x41;", "\xC9", " \xC8", "\xA9", "\xB3", "f0",
                  "f 0", "the", "There", "tre", "\xFF", std::string(1, '\0'), "&#", ";", "tion"});
   for (int round = 0; round < 15; ++round) {
-    ExpectRoundTrip(samples::RandomFromPieces(random, pieces, 400),
-                    "round " + std::to_string(round));
+    ExpectRoundTrip(samples::RandomFromPieces(random, pieces, 400), "round " + std::to_string(round));
   }
 }
 

@@ -59,10 +59,9 @@ TEST(WordTable, OnePassExpansionGivesTheFinalMeaningOfEachCodeRowByRow) {
 // one-pass contraction works in.
 TEST(WordTable, OnePassContractionGivesTheRowByRowResult) {
   const std::vector<std::string> pieces = {
-      "tion", "the",   "aid", "and", "shout",   "tr",   "ea",   "st",      "er",  "re",
-      "you",  "Clunk", "Hal", "can", "console", "to",   "that", "not",     "his", "what",
-      "oo",   "o",     "ch",  "Th",  "f",       "f0",   "9",    " ",       ".",   "r",
-      "e",    "a",     "t",   "h",   "s",       "\xC9", "\xB3", "thathat", "ooo"};
+      "tion", "the", "aid", "and", "shout", "tr", "ea", "st", "er", "re", "you", "Clunk", "Hal",
+      "can", "console", "to", "that", "not", "his", "what", "oo", "o", "ch", "Th", "f", "f0",
+      "9", " ", ".", "r", "e", "a", "t", "h", "s", "\xC9", "\xB3", "thathat", "ooo"};
   std::mt19937 random(11);
   for (int round = 0; round < 300; ++round) {
     std::string text = samples::RandomFromPieces(random, pieces, 40);

@@ -5,12 +5,12 @@
 #include <random>
 
 #include "book/cls_strip_cr.h"
+#include "sample_text.h"
 #include "fake_pump.h"
 #include "layout/font_metrics.h"
 #include "layout/pagination_fixtures.h"
 #include "layout/reindex.h"
 #include "render/print_page.h"
-#include "sample_text.h"
 
 namespace vireo {
 namespace {
