@@ -33,10 +33,12 @@ for dialog in about:about-window report:error-report; do
   QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_DIALOG="${dialog%%:*}" \
     VIREO_SCREENSHOT="$out/${dialog#*:}.png" "$work/Genesis" >/dev/null
 done
-# The Create ebook dialog (frmMakeEbook) with the sample text chosen.
-cp "$bin/samples/genesis.txt" "$work/"
+# The Create ebook dialog (frmMakeEbook) with the picture book's text, its
+# pictures folder and its cover chosen.
+cp -r "$bin/samples/birdsong" "$work/"
 QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_DIALOG=ebook \
-  VIREO_EBOOK_TEXT="$work/genesis.txt" VIREO_SCREENSHOT="$out/create-ebook.png" \
+  VIREO_EBOOK_TEXT="$work/birdsong/birdsong.txt" VIREO_EBOOK_IMAGES="$work/birdsong/pictures" \
+  VIREO_EBOOK_COVER="$work/birdsong/pictures/cover.png" VIREO_SCREENSHOT="$out/create-ebook.png" \
   "$work/Genesis" >/dev/null
 # The Open dialog (Ctrl+O), in the program's folder.
 QT_QPA_PLATFORM=offscreen VIREO_NONINTERACTIVE=1 VIREO_DIALOG=open \

@@ -67,7 +67,7 @@ int RunMake(const Arguments& arguments) {
   }
   if (!pictures_folder.empty()) {
     request.after_book = [&](std::string& file, std::string_view text) {
-      AppendPictureSection(file, PackBookPictures(text, pictures_folder, cover_path));
+      AppendBookPictures(file, text, pictures_folder, cover_path);
     };
   }
   if (!has_title) request.title = DefaultTitle(request.text_path);

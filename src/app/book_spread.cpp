@@ -25,6 +25,7 @@ BookSpread::BookSpread(ReaderContext& context)
       navigator_(plotter_, context.reading) {
   composer_.SetImageStore(&pictures_);
   composer_.SetObserver(&plotter_);
+  composer_.SetUser(&context.user);
   plotter_.SetPictures(&context.images);
 }
 

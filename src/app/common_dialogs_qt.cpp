@@ -7,6 +7,7 @@
 #include <QPrinter>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 
 #include "app/interaction_qt.h"
 #include "render/qt_surface_qt.h"
@@ -35,16 +36,40 @@ QString Text(std::string_view text) {
 std::optional<FileChoice> QtCommonDialogs::AskSaveFile(std::string_view title,
                                                        std::string_view suggested_path,
                                                        const std::vector<std::string>& filters) {
-  return AskFile(true, title, suggested_path, filters);
+  return AskFile(FileDialogKind::kSave, title, suggested_path, filters);
 }
 
 std::optional<FileChoice> QtCommonDialogs::AskOpenFile(std::string_view title,
                                                        std::string_view folder,
                                                        const std::vector<std::string>& filters) {
-  return AskFile(false, title, folder, filters);
+  return AskFile(FileDialogKind::kOpen, title, folder, filters);
 }
 
-std::optional<FileChoice> QtCommonDialogs::AskFile(bool save, std::string_view title,
+std::optional<std::string> QtCommonDialogs::AskFolder(std::string_view title,
+                                                      std::string_view folder) {
+  const auto chosen = AskFile(FileDialogKind::kFolder, title, folder, {});
+  if (!chosen) return std::nullopt;
+  return chosen->path;
+}
+
+QFileDialog* QtCommonDialogs::NewFileDialog(FileDialogKind kind, std::string_view title,
+                                            std::string_view start,
+                                            const std::vector<std::string>& filters) {
+  auto* dialog = new QFileDialog(parent_, Text(title), Text(start));
+  const bool save = kind == FileDialogKind::kSave;
+  dialog->setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialog->setFileMode(kind == FileDialogKind::kFolder ? QFileDialog::Directory
+                      : save                          ? QFileDialog::AnyFile
+                                                      : QFileDialog::ExistingFile);
+  if (kind == FileDialogKind::kFolder) dialog->setOption(QFileDialog::ShowDirsOnly);
+  QStringList kinds;
+  for (const std::string& filter : filters) kinds << Text(filter);
+  if (!kinds.isEmpty()) dialog->setNameFilters(kinds);
+  if (save) dialog->selectFile(Text(start));
+  return dialog;
+}
+
+std::optional<FileChoice> QtCommonDialogs::AskFile(FileDialogKind kind, std::string_view title,
                                                    std::string_view start,
                                                    const std::vector<std::string>& filters) {
   if (NonInteractiveMode()) {
@@ -53,16 +78,10 @@ std::optional<FileChoice> QtCommonDialogs::AskFile(bool save, std::string_view t
     const char* filter = Answer("VIREO_ANSWER_FILTER");
     return FileChoice{path, filter != nullptr ? std::atoi(filter) : 0};
   }
-  QStringList kinds;
-  for (const std::string& filter : filters) kinds << Text(filter);
-  QFileDialog dialog(parent_, Text(title), Text(start));
-  dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-  dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-  dialog.setNameFilters(kinds);
-  if (save) dialog.selectFile(Text(start));
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-  return FileChoice{dialog.selectedFiles().first().toLocal8Bit().toStdString(),
-                    static_cast<int>(kinds.indexOf(dialog.selectedNameFilter()))};
+  const std::unique_ptr<QFileDialog> dialog(NewFileDialog(kind, title, start, filters));
+  if (dialog->exec() != QDialog::Accepted || dialog->selectedFiles().isEmpty()) return std::nullopt;
+  return FileChoice{dialog->selectedFiles().first().toLocal8Bit().toStdString(),
+                    static_cast<int>(dialog->nameFilters().indexOf(dialog->selectedNameFilter()))};
 }
 
 std::optional<uint32_t> QtCommonDialogs::AskColour(std::string_view title, uint32_t initial) {

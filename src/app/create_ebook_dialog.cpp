@@ -1,7 +1,6 @@
 #include "app/create_ebook_dialog.h"
 
 #include <QApplication>
-#include <QFileDialog>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -39,13 +38,19 @@ const char* Environment(const char* name) {
 
 }  // namespace
 
-frmMakeEbook::frmMakeEbook(std::unique_ptr<EbookMakerForm> form, QWidget* parent)
-    : QDialog(parent), form_(std::move(form)) {
+frmMakeEbook::frmMakeEbook(std::unique_ptr<EbookMakerForm> form, CommonDialogs& dialogs,
+                           QWidget* parent)
+    : QDialog(parent), form_(std::move(form)), dialogs_(dialogs) {
   setObjectName("frmMakeEbook");
   setWindowTitle(Tr("Create ebook"));
   BuildFields();
-  connect(cmdChooseText, &QPushButton::clicked, this, &frmMakeEbook::PickText);
-  connect(cmdChooseOut, &QPushButton::clicked, this, &frmMakeEbook::PickOutput);
+  connect(cmdChooseText, &QPushButton::clicked, this, [this] { Pick(&EbookMakerForm::PickText); });
+  connect(cmdChooseOut, &QPushButton::clicked, this,
+          [this] { Pick(&EbookMakerForm::PickOutput); });
+  connect(cmdChoosePictures, &QPushButton::clicked, this,
+          [this] { Pick(&EbookMakerForm::PickPictures); });
+  connect(cmdChooseCover, &QPushButton::clicked, this,
+          [this] { Pick(&EbookMakerForm::PickCover); });
   connect(optBrn, &QRadioButton::toggled, this, [this](bool brn) {
     TakeFields();
     form_->SetForm(brn ? MakeForm::kBrn : MakeForm::kEbook);
@@ -67,6 +72,10 @@ void frmMakeEbook::BuildFields() {
   optBrn = Named(new QRadioButton(Tr("Packed book alone (.brn), for a reader to open")), "optBrn");
   txtOut = Named(new QLineEdit, "txtOut");
   cmdChooseOut = Named(new QPushButton(Tr("Choose...")), "cmdChooseOut");
+  txtPictures = Named(new QLineEdit, "txtPictures");
+  cmdChoosePictures = Named(new QPushButton(Tr("Choose...")), "cmdChoosePictures");
+  txtCover = Named(new QLineEdit, "txtCover");
+  cmdChooseCover = Named(new QPushButton(Tr("Choose...")), "cmdChooseCover");
   prgMake = Named(new QProgressBar, "prgMake");
   txtReport = Named(new QPlainTextEdit, "txtReport");
   cmdMake = Named(new QPushButton(Tr("Make")), "cmdMake");
@@ -84,6 +93,8 @@ void frmMakeEbook::BuildFields() {
   fields->addRow(Tr("Make:"), optEbook);
   fields->addRow("", optBrn);
   fields->addRow(Tr("Write to:"), WithButton(txtOut, cmdChooseOut));
+  fields->addRow(Tr("Pictures folder:"), WithButton(txtPictures, cmdChoosePictures));
+  fields->addRow(Tr("Cover picture:"), WithButton(txtCover, cmdChooseCover));
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(prgMake, 1);
   buttons->addWidget(cmdMake);
@@ -100,6 +111,13 @@ void frmMakeEbook::ShowForm() {
   txtTitle->setText(QString::fromUtf8(form_->title.c_str()));
   txtAuthor->setText(QString::fromUtf8(form_->author.c_str()));
   txtOut->setText(Local(form_->out_path));
+  txtPictures->setText(Local(form_->pictures_folder));
+  txtCover->setText(Local(form_->cover_path));
+  for (QWidget* field : {static_cast<QWidget*>(txtPictures), static_cast<QWidget*>(txtCover),
+                         static_cast<QWidget*>(cmdChoosePictures),
+                         static_cast<QWidget*>(cmdChooseCover)}) {
+    field->setEnabled(form_->packs_pictures());
+  }
 }
 
 void frmMakeEbook::TakeFields() {
@@ -107,6 +125,8 @@ void frmMakeEbook::TakeFields() {
   form_->title = txtTitle->text().toStdString();
   form_->author = txtAuthor->text().toStdString();
   form_->out_path = Local(txtOut->text());
+  form_->pictures_folder = Local(txtPictures->text());
+  form_->cover_path = Local(txtCover->text());
 }
 
 void frmMakeEbook::ChooseText(const std::string& path) {
@@ -115,16 +135,10 @@ void frmMakeEbook::ChooseText(const std::string& path) {
   ShowForm();
 }
 
-void frmMakeEbook::PickText() {
-  const QString path = QFileDialog::getOpenFileName(
-      this, Tr("Choose the text file"), txtText->text(),
-      Tr("Text files") + " (*.txt *.text);;" + Tr("All files") + " (*)");
-  if (!path.isEmpty()) ChooseText(Local(path));
-}
-
-void frmMakeEbook::PickOutput() {
-  const QString path = QFileDialog::getSaveFileName(this, Tr("Write the book to"), txtOut->text());
-  if (!path.isEmpty()) txtOut->setText(path);
+void frmMakeEbook::Pick(void (EbookMakerForm::*pick)(CommonDialogs&)) {
+  TakeFields();
+  (form_.get()->*pick)(dialogs_);
+  ShowForm();
 }
 
 void frmMakeEbook::MakeBook() {
@@ -148,8 +162,11 @@ std::unique_ptr<frmMakeEbook> MakeCreateEbookDialog(frmMain& logic, UserInteract
   auto form = std::make_unique<EbookMakerForm>(
       user, [&logic](const std::string& path) { logic.commands().OpenNamedFile(path); },
       logic.context().location.executable_path, logic.book().path());
-  auto dialog = std::make_unique<frmMakeEbook>(std::move(form), parent);
+  auto dialog = std::make_unique<frmMakeEbook>(
+      std::move(form), logic.context().view.Services().Dialogs(), parent);
   if (const char* text = Environment("VIREO_EBOOK_TEXT")) dialog->ChooseText(text);
+  if (const char* folder = Environment("VIREO_EBOOK_IMAGES")) dialog->txtPictures->setText(folder);
+  if (const char* cover = Environment("VIREO_EBOOK_COVER")) dialog->txtCover->setText(cover);
   return dialog;
 }
 

@@ -15,14 +15,16 @@
 namespace vireo {
 
 // The Create ebook dialog: the fields of an EbookMakerForm, which makes all
-// the decisions. Choosing files goes through the platform's file dialogs;
-// the form's ChooseText and the fields can also be set directly (tests, the
-// non-interactive mode).
+// the decisions. The Choose... buttons ask the common dialogs through the
+// form; the form's ChooseText and the fields can also be set directly
+// (tests, the non-interactive mode). The pictures fields are disabled for a
+// packed book alone, which carries no pictures.
 class frmMakeEbook : public QDialog {
   Q_OBJECT
 
  public:
-  frmMakeEbook(std::unique_ptr<EbookMakerForm> form, QWidget* parent);
+  // dialogs answers the Choose... buttons and must outlive the dialog.
+  frmMakeEbook(std::unique_ptr<EbookMakerForm> form, CommonDialogs& dialogs, QWidget* parent);
 
   // The text file chosen: the form fills in the rest, shown at once.
   void ChooseText(const std::string& path);
@@ -41,6 +43,10 @@ class frmMakeEbook : public QDialog {
   QRadioButton* optBrn;
   QLineEdit* txtOut;
   QPushButton* cmdChooseOut;
+  QLineEdit* txtPictures;
+  QPushButton* cmdChoosePictures;
+  QLineEdit* txtCover;
+  QPushButton* cmdChooseCover;
   QProgressBar* prgMake;
   QPlainTextEdit* txtReport;
   QPushButton* cmdMake;
@@ -50,21 +56,23 @@ class frmMakeEbook : public QDialog {
   void BuildFields();
   void ShowForm();
   void TakeFields();
-  void PickText();
-  void PickOutput();
+  // The form asks dialogs_ for one field; the fields show its answer.
+  void Pick(void (EbookMakerForm::*pick)(CommonDialogs&));
 
   std::unique_ptr<EbookMakerForm> form_;
+  CommonDialogs& dialogs_;
 };
 
 // The dialog for the reader: it never writes over the running program or the
 // open book, and a made book is offered to the reader as a named file is.
-// The text of VIREO_EBOOK_TEXT, when set, is chosen already.
+// The text of VIREO_EBOOK_TEXT, when set, is chosen already, and the pictures
+// folder and cover of VIREO_EBOOK_IMAGES and VIREO_EBOOK_COVER filled in.
 std::unique_ptr<frmMakeEbook> MakeCreateEbookDialog(frmMain& logic, UserInteraction& user,
                                                     QWidget* parent);
 
 // Create ebook: shows the dialog modally. In the non-interactive mode the
-// dialog is filled from VIREO_EBOOK_TEXT, VIREO_EBOOK_OUT and
-// VIREO_EBOOK_FORM=brn and made at once ("[input] Create ebook: cancelled"
+// dialog is filled from those, VIREO_EBOOK_OUT and VIREO_EBOOK_FORM=brn and
+// made at once ("[input] Create ebook: cancelled"
 // without VIREO_EBOOK_TEXT).
 void ShowCreateEbook(frmMain& logic, UserInteraction& user, QWidget* parent);
 

@@ -5,6 +5,8 @@
 #include <fstream>
 
 #include "book/make_request_check.h"
+#include "book/picture_packing.h"
+#include "support/platform.h"
 #include "support/text_helpers.h"
 #include "support/translation.h"
 #include "support/windows1252.h"
@@ -50,6 +52,10 @@ std::string AfterLabel(const std::string& line, std::string_view label) {
   if (line.size() <= label.size()) return "";
   const std::string start = UpperCase(line.substr(0, label.size()));
   return start == UpperCase(std::string(label)) ? Trimmed(line.substr(label.size())) : "";
+}
+
+std::string FolderOf(const std::string& path) {
+  return std::filesystem::path(path).parent_path().string();
 }
 
 std::string TitleFromFileName(const std::string& path) {
@@ -99,7 +105,9 @@ void EbookMakerForm::ChooseText(const std::string& path) {
     return;
   }
   const bool out_follows = out_path.empty() || out_path == OutputBesideText();
+  const bool pictures_follow = pictures_folder.empty() || pictures_folder == FolderOf(text_path);
   text_path = path;
+  if (pictures_follow) pictures_folder = FolderOf(path);
   const TextEncoding encoding = DetectEncoding(head);
   encoding_name_ = EncodingName(encoding);
   const SuggestedDetails details = SuggestDetails(path, HeadAsUtf8(head, encoding));
@@ -123,12 +131,62 @@ MakeRequest EbookMakerForm::Request() const {
   request.author = author;
   request.form = form_;
   request.kept_paths = {running_program_, open_book_};
+  if (packs_pictures() && !pictures_folder.empty()) {
+    request.after_book = [folder = pictures_folder, cover = cover_path](std::string& file,
+                                                                        std::string_view text) {
+      AppendBookPictures(file, text, folder, cover);
+    };
+  }
   return request;
+}
+
+void EbookMakerForm::PickText(CommonDialogs& dialogs) {
+  const auto chosen = dialogs.AskOpenFile(
+      GetTranslation("Choose the text file"), FolderOf(text_path),
+      {GetTranslation("Text files") + " (*.txt *.text)", GetTranslation("All files") + " (*)"});
+  if (chosen) ChooseText(chosen->path);
+}
+
+void EbookMakerForm::PickOutput(CommonDialogs& dialogs) {
+  const auto chosen = dialogs.AskSaveFile(GetTranslation("Write the book to"), out_path,
+                                          {GetTranslation("All files") + " (*)"});
+  if (chosen) out_path = chosen->path;
+}
+
+void EbookMakerForm::PickPictures(CommonDialogs& dialogs) {
+  const auto chosen = dialogs.AskFolder(GetTranslation("Choose the pictures folder"),
+                                        pictures_folder.empty() ? FolderOf(text_path)
+                                                                : pictures_folder);
+  if (chosen) pictures_folder = *chosen;
+}
+
+void EbookMakerForm::PickCover(CommonDialogs& dialogs) {
+  const auto chosen = dialogs.AskOpenFile(
+      GetTranslation("Choose the cover picture"),
+      cover_path.empty() ? pictures_folder : FolderOf(cover_path),
+      {GetTranslation("Pictures") + " (*.png *.jpg *.jpeg *.bmp *.gif)",
+       GetTranslation("All files") + " (*)"});
+  if (chosen) cover_path = chosen->path;
+}
+
+std::string EbookMakerForm::PicturesProblem() const {
+  if (!packs_pictures()) return "";
+  if (!cover_path.empty() && pictures_folder.empty()) {
+    return GetTranslation("A cover is packed with the pictures: choose the pictures folder too.");
+  }
+  if (!pictures_folder.empty() && !FolderExists(pictures_folder)) {
+    return GetTranslation("The pictures folder cannot be found:") + " " + pictures_folder;
+  }
+  if (!cover_path.empty() && !FileExists(cover_path)) {
+    return GetTranslation("The cover picture cannot be found:") + " " + cover_path;
+  }
+  return "";
 }
 
 std::string EbookMakerForm::Problem() const {
   if (text_path.empty()) return GetTranslation("Choose the text file first.");
   if (out_path.empty()) return GetTranslation("Choose where the book is written.");
+  if (std::string problem = PicturesProblem(); !problem.empty()) return problem;
   return MakeRequestProblem(Request());
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "book/book_maker.h"
+#include "support/common_dialogs.h"
 #include "support/user_interaction.h"
 
 namespace vireo {
@@ -32,8 +33,9 @@ class EbookMakerForm {
 
   // A text file was chosen: its encoding is detected from its beginning
   // (shown by encoding_name), title and author are suggested, and the output
-  // is put beside the text (named after it, ".brn" for a packed book). An
-  // unreadable file is said so and leaves the fields as they were.
+  // is put beside the text (named after it, ".brn" for a packed book), its
+  // pictures looked for in its folder. A typed output or pictures folder
+  // stays. An unreadable file is said so and leaves the fields as they were.
   void ChooseText(const std::string& path);
   // The output form; an output named after the text follows it.
   void SetForm(MakeForm form);
@@ -42,8 +44,21 @@ class EbookMakerForm {
   std::string title;
   std::string author;
   std::string out_path;
+  // The folder the text's pictures are packed from ("": none) and the cover
+  // packed with them ("": none). Only an ebook carries pictures: a packed
+  // book alone (.brn) leaves them as files beside it.
+  std::string pictures_folder;
+  std::string cover_path;
   MakeForm form() const { return form_; }
+  bool packs_pictures() const { return form_ == MakeForm::kEbook; }
   const std::string& encoding_name() const { return encoding_name_; }
+
+  // The Choose... buttons: each asks dialogs for its field (cancelled:
+  // the field stays).
+  void PickText(CommonDialogs& dialogs);
+  void PickOutput(CommonDialogs& dialogs);
+  void PickPictures(CommonDialogs& dialogs);
+  void PickCover(CommonDialogs& dialogs);
 
   // Why the book cannot be made as the fields stand, or "".
   std::string Problem() const;
@@ -59,6 +74,7 @@ class EbookMakerForm {
  private:
   MakeRequest Request() const;
   std::string OutputBesideText() const;
+  std::string PicturesProblem() const;
 
   UserInteraction& user_;
   std::function<void(const std::string&)> open_;

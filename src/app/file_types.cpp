@@ -94,9 +94,17 @@ void WriteIfChanged(const std::string& path, const std::string& content) {
 
 }  // namespace
 
-std::string OpenDialogFilter() {
-  return GetTranslation("Books") + " (*.brn *.bfl *.txt *.text *.vrtxt *.vrhtm *.htm *.html)" +
-         ";;" + GetTranslation("All files") + " (*)";
+std::string OpenDialogTitle() { return GetTranslation("Open a book"); }
+
+std::vector<std::string> OpenDialogFilters() {
+  return {GetTranslation("Books") + " (*.brn *.bfl *.txt *.text *.vrtxt *.vrhtm *.htm *.html)",
+          GetTranslation("All files") + " (*)"};
+}
+
+std::optional<std::string> ChooseBookFile(CommonDialogs& dialogs, const std::string& folder) {
+  const auto chosen = dialogs.AskOpenFile(OpenDialogTitle(), folder, OpenDialogFilters());
+  if (!chosen) return std::nullopt;
+  return chosen->path;
 }
 
 std::optional<std::string> RegistrationTarget(

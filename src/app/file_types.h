@@ -3,15 +3,24 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
+
+#include "support/common_dialogs.h"
 
 namespace vireo {
 
 // The book file types the reader registers for itself at start-up.
 inline constexpr const char* kBookFileTypes[] = {".text", ".vrtxt", ".vrhtm", ".bfl", ".brn"};
 
-// The file dialog's filter for Open...: the book types a page accepts,
-// then "All files" (ebooks are programs without a book type in their name).
-std::string OpenDialogFilter();
+// The file dialog of Open...: its title, and its filters: the book types a
+// page accepts, then "All files" (ebooks are programs without a book type
+// in their name).
+std::string OpenDialogTitle();
+std::vector<std::string> OpenDialogFilters();
+
+// Open...: asks dialogs for a book file, starting in folder; the chosen
+// path, or nullopt when cancelled.
+std::optional<std::string> ChooseBookFile(CommonDialogs& dialogs, const std::string& folder);
 
 // Which program the book file types are registered for, when the program
 // at executable_path runs: the reader itself when that is its name ("Vireo",

@@ -23,6 +23,9 @@ class HeadlessServices : public PeripheralServices, CommonDialogs, SpeechEngine 
                                         const std::vector<std::string>&) override {
     return std::nullopt;
   }
+  std::optional<std::string> AskFolder(std::string_view, std::string_view) override {
+    return std::nullopt;
+  }
   std::optional<uint32_t> AskColour(std::string_view, uint32_t) override { return std::nullopt; }
 
   bool Available() override { return false; }

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QFileDialog>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QSocketNotifier>
@@ -16,10 +17,10 @@
 
 #include "app/create_ebook_dialog.h"
 #include "app/error_report_dialog.h"
+#include "app/file_types.h"
 #include "app/font_selection_qt.h"
 #include "app/interaction_qt.h"
 #include "app/main_window.h"
-#include "app/open_book_dialog.h"
 #include "app/page_setup_qt.h"
 #include "support/error_trap.h"
 #include "support/platform.h"
@@ -143,7 +144,9 @@ QWidget* OpenDialog(vireo::MainWindow& window) {
        }},
       {"open",
        [](vireo::MainWindow& w) {
-         return ShowOver(vireo::NewOpenBookDialog(&w, w.logic().context().prefs.path));
+         return ShowOver(w.services().common_dialogs().NewFileDialog(
+             vireo::QtCommonDialogs::FileDialogKind::kOpen, vireo::OpenDialogTitle(),
+             w.logic().context().prefs.path, vireo::OpenDialogFilters()));
        }},
       {"font",
        [](vireo::MainWindow& w) {

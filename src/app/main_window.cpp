@@ -18,10 +18,10 @@
 #include <QWheelEvent>
 
 #include "app/create_ebook_dialog.h"
+#include "app/file_types.h"
 #include "app/font_selection_qt.h"
 #include "app/key_map.h"
 #include "app/language_window_qt.h"
-#include "app/open_book_dialog.h"
 #include "app/page_setup_qt.h"
 #include "nav/page_nav_dialog.h"
 #include "nav/page_nav_mouse.h"
@@ -204,7 +204,7 @@ void MainWindow::ShowOptionsMenuAtPage() {
 }
 
 void MainWindow::OpenBookFile() {
-  const auto path = ChooseBookFile(this, logic_.context().prefs.path);
+  const auto path = ChooseBookFile(services_->Dialogs(), logic_.context().prefs.path);
   if (path) logic_.commands().OpenNamedFile(*path);
 }
 

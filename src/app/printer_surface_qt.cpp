@@ -4,7 +4,9 @@
 #include <algorithm>
 
 #include "app/interaction_qt.h"
+#include "render/picture_decoder_qt.h"
 #include "render/qt_surface_qt.h"
+#include "support/runtime_error.h"
 
 namespace vireo {
 namespace {
@@ -49,6 +51,16 @@ void PrinterSurface::DrawText(std::string_view text) {
   painter_.setPen(QtSurface::ColorFromBgr(ForeColor()));
   painter_.drawText(QPointF(CurrentX(), CurrentY() + QFontMetricsF(font_).ascent()), line);
   SetCurrentX(CurrentX() + QFontMetricsF(font_).horizontalAdvance(line));
+}
+
+void PrinterSurface::PaintPicture(const Picture& picture, double left, double top, double width,
+                                  double height) {
+  if (picture.empty() || width <= 0 || height <= 0) return;
+  Require(painter_.isActive(), ErrorNumber::kPrinterError);
+  painter_.save();
+  painter_.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter_.drawImage(QRectF(left, top, width, height), ImageOfPicture(picture));
+  painter_.restore();
 }
 
 }  // namespace vireo

@@ -31,6 +31,9 @@ class PrinterSurface : public Surface {
   double ScaleWidth() const override { return width_twips_; }
   double ScaleHeight() const override { return height_twips_; }
   void DrawText(std::string_view text) override;
+  // Throws RuntimeError 482 when the printer takes no more drawing.
+  void PaintPicture(const Picture& picture, double left, double top, double width,
+                    double height) override;
   // Paper stays white: nothing to clear.
   void Clear() override {}
 

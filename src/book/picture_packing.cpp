@@ -65,4 +65,10 @@ PackedPictures PackBookPictures(std::string_view text, const std::string& folder
   return packed;
 }
 
+void AppendBookPictures(std::string& file, std::string_view text, const std::string& folder,
+                        const std::string& cover_path) {
+  const PackedPictures packed = PackBookPictures(text, folder, cover_path);
+  if (!packed.pictures.empty()) AppendPictureSection(file, packed);
+}
+
 }  // namespace vireo

@@ -16,4 +16,10 @@ namespace vireo {
 PackedPictures PackBookPictures(std::string_view text, const std::string& folder,
                                 const std::string& cover_path);
 
+// Packs the pictures as PackBookPictures does and appends their section to
+// file. A text that names no picture found in folder, made without a cover,
+// gets no section: the book is byte for byte the one made without pictures.
+void AppendBookPictures(std::string& file, std::string_view text, const std::string& folder,
+                        const std::string& cover_path);
+
 }  // namespace vireo

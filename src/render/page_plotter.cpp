@@ -108,8 +108,10 @@ void PagePlotter::PrintOnPage(int page, Surface& printer) {
     if (page < 1 || page > book_.PageCount()) return;
     const PageSettings settings = SettingsFor(PageSide::kLeft, page, PageTarget::kPrinter);
     composing_surface_ = &printer;
+    printing_ = true;
     composer_.ComposeLines(settings, metrics_);
     composing_surface_ = nullptr;
+    printing_ = false;
     printer.SetFontSize(prefs_.font_size);
     printer.SetForeColor(prefs_.ink_colour);
     composer_.PrintPage(settings, printer);
@@ -127,8 +129,12 @@ void PagePlotter::AddImage(int, int image_number, double left, int line_index) {
     images_->SetImageTop(top);
     // Composing only for the page's lines (copy, read aloud) draws nothing.
     if (composing_surface_ == nullptr) return;
-    composing_surface_->PaintPicture(*picture, left + images_->ImageLeft(), top, size.width,
-                                     size.height);
+    const double x = left + images_->ImageLeft();
+    if (printing_) {
+      composer_.PrintPictureBox(*composing_surface_, *picture, x, top, size.width, size.height);
+    } else {
+      composing_surface_->PaintPicture(*picture, x, top, size.width, size.height);
+    }
   });
 }
 

@@ -96,6 +96,7 @@ class PagePlotter : public BookDisplay, public PrintPageObserver {
   const Picture* cover_ = nullptr;
   bool cover_shown_ = false;
   Surface* composing_surface_ = nullptr;  // while a page is composed for drawing
+  bool printing_ = false;                 // that surface is the printer
 };
 
 }  // namespace vireo

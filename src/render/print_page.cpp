@@ -5,6 +5,7 @@
 #include "layout/font_metrics.h"
 #include "render/surface.h"
 #include "support/error_trap.h"
+#include "support/translation.h"
 #include "support/user_interaction.h"
 
 namespace vireo {
@@ -58,6 +59,22 @@ void clsPrintPage::PrintPage(const PageSettings& settings, Surface& printer) {
     printer.SetCurrentY(settings.top);
     PrintSentences(settings);
   });
+}
+
+void clsPrintPage::PrintPictureBox(Surface& printer, const Picture& picture, double x, double y,
+                                   double width, double height) {
+  std::string failure;
+  Trap("sub printpicturebox", kModule, [&] {
+    try {
+      printer.PaintPicture(picture, x, y, width, height);
+    } catch (const RuntimeError& error) {
+      failure = error.description();
+      throw;
+    }
+  });
+  if (!failure.empty() && user_ != nullptr) {
+    user_->ShowMessage(failure, GetTranslation("Printer Error!"));
+  }
 }
 
 void clsPrintPage::SetupFormatting(const PageSettings& settings) {

@@ -12,6 +12,8 @@ namespace vireo {
 class Surface;
 class clsFontMetrics;
 class MessagePump;
+class UserInteraction;
+struct Picture;
 
 // What the composer asks of the image store about the pictures a page names.
 class ComposerImageStore {
@@ -49,6 +51,8 @@ class clsPrintPage {
   // store no picture is ever placed.
   void SetImageStore(ComposerImageStore* images) { images_ = images; }
   void SetObserver(PrintPageObserver* observer) { observer_ = observer; }
+  // Printer failures are shown to the person through user, else only logged.
+  void SetUser(UserInteraction* user) { user_ = user; }
 
   // Composes settings.page_text and draws it onto surface from settings.top,
   // positioning glyphs by the widths in metrics. surface and metrics must
@@ -62,6 +66,12 @@ class clsPrintPage {
   // the page out again; glyphs are placed by the printer's own widths and no
   // search term is highlighted.
   void PrintPage(const PageSettings& settings, Surface& printer);
+
+  // Prints a drawn picture onto the printer surface, scaled into the
+  // rectangle at (x, y) of width x height twips. A failure is logged and
+  // shown as "Printer Error!" with its description.
+  void PrintPictureBox(Surface& printer, const Picture& picture, double x, double y,
+                       double width, double height);
 
   // The target's bold, italic and underline from the page flags; copies the
   // justify and indent flags and the search term.
@@ -102,6 +112,7 @@ class clsPrintPage {
   MessagePump& pump_;
   ComposerImageStore* images_ = nullptr;
   PrintPageObserver* observer_ = nullptr;
+  UserInteraction* user_ = nullptr;
   Surface* target_ = nullptr;
   const clsFontMetrics* metrics_ = nullptr;  // nullptr: the target's own widths
   bool printing_ = false;

@@ -27,6 +27,8 @@ class CommonDialogs {
                                                 const std::vector<std::string>& filters) = 0;
   virtual std::optional<FileChoice> AskOpenFile(std::string_view title, std::string_view folder,
                                                 const std::vector<std::string>& filters) = 0;
+  // A folder, starting from `folder`.
+  virtual std::optional<std::string> AskFolder(std::string_view title, std::string_view folder) = 0;
   // A colour as 0x00BBGGRR, starting from `initial`.
   virtual std::optional<uint32_t> AskColour(std::string_view title, uint32_t initial) = 0;
 };

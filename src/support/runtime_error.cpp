@@ -38,6 +38,8 @@ std::string_view ErrorDescription(int number) {
       return "Path not found";
     case ErrorNumber::kObjectNotSet:
       return "Object variable or With block variable not set";
+    case ErrorNumber::kPrinterError:
+      return "Printer error";
   }
   return "Application-defined or object-defined error";
 }

@@ -25,6 +25,7 @@ enum class ErrorNumber : int {
   kObjectNotSet = 91,
   kDllNotFound = 48,
   kInternal = 51,
+  kPrinterError = 482,
 };
 
 // The description the run time gives for an error number ("Overflow",

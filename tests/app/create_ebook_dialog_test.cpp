@@ -32,8 +32,10 @@ TEST(CreateEbookDialog, AChosenTextIsMadeIntoAPackedBookThatOpens) {
   dialog->ChooseText(text);
   EXPECT_EQ(dialog->lblEncoding->text(), "UTF-16 (little-endian)");
   EXPECT_EQ(dialog->txtTitle->text(), "The Small Book");
+  EXPECT_EQ(dialog->txtPictures->text().toStdString(), reader.folder().str());
   dialog->optBrn->click();
   EXPECT_EQ(dialog->txtOut->text().toStdString(), reader.folder().File("small.brn"));
+  EXPECT_FALSE(dialog->txtPictures->isEnabled()) << "a packed book alone carries no pictures";
 
   reader.user().yes = true;  // open it
   QTest::mouseClick(dialog->cmdMake, Qt::LeftButton);

@@ -1,8 +1,10 @@
 // What the Create ebook dialog suggests and where it writes, without a window.
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "app/ebook_maker_form.h"
+#include "app/fake_services.h"
 #include "app/fake_window.h"
 
 namespace vireo {
@@ -43,6 +45,65 @@ TEST(EbookMakerForm, TheOutputFollowsTheTextAndTheFormUntilItIsTyped) {
   form.out_path = folder.File("mine.brn");
   form.SetForm(MakeForm::kEbook);
   EXPECT_EQ(form.out_path, folder.File("mine.brn")) << "a typed output stays";
+}
+
+TEST(EbookMakerForm, PicturesComeFromTheTextsFolderAndAreCheckedOnlyForAnEbook) {
+  test::TempFolder folder;
+  test::FakeUser user;
+  EbookMakerForm form(
+      user, [](const std::string&) {}, "/opt/Vireo", "");
+  test::WriteFile(folder.File("tale.txt"), "A tale.");
+  test::WriteFile(folder.File("cover.png"), "not really a picture");
+  form.ChooseText(folder.File("tale.txt"));
+  EXPECT_EQ(form.pictures_folder, folder.str());
+  struct Case {
+    std::string pictures, cover;
+    MakeForm make;
+    std::string problem;  // the start of it
+  };
+  const Case cases[] = {
+      {"", folder.File("cover.png"), MakeForm::kEbook, "A cover is packed with the pictures"},
+      {folder.File("gone"), "", MakeForm::kEbook, "The pictures folder cannot be found: "},
+      {folder.str(), folder.File("gone.png"), MakeForm::kEbook,
+       "The cover picture cannot be found: "},
+      {folder.File("gone"), folder.File("gone.png"), MakeForm::kBrn, ""},
+  };
+  for (const Case& c : cases) {
+    form.pictures_folder = c.pictures;
+    form.cover_path = c.cover;
+    form.SetForm(c.make);
+    EXPECT_EQ(form.Problem().substr(0, c.problem.size()), c.problem) << c.pictures << c.cover;
+    EXPECT_EQ(form.packs_pictures(), c.make == MakeForm::kEbook);
+  }
+}
+
+TEST(EbookMakerForm, TheChooseButtonsAskTheCommonDialogsAndACancelKeepsTheField) {
+  test::TempFolder folder;
+  test::FakeUser user;
+  test::FakeServices dialogs;
+  EbookMakerForm form(
+      user, [](const std::string&) {}, "/opt/Vireo", "");
+  test::WriteFile(folder.File("tale.txt"), "Title: A Tale\nMore.");
+  dialogs.open_answer = FileChoice{folder.File("tale.txt")};
+  form.PickText(dialogs);
+  EXPECT_EQ(form.title, "A Tale");
+  form.PickPictures(dialogs);  // cancelled
+  EXPECT_EQ(form.pictures_folder, folder.str());
+  dialogs.folder_answer = "/pictures";
+  form.PickPictures(dialogs);
+  dialogs.open_answer = FileChoice{"/pictures/front.png"};
+  form.PickCover(dialogs);
+  dialogs.save_answer = FileChoice{"/books/Tale"};
+  form.PickOutput(dialogs);
+  EXPECT_EQ(form.pictures_folder, "/pictures");
+  EXPECT_EQ(form.cover_path, "/pictures/front.png");
+  EXPECT_EQ(form.out_path, "/books/Tale");
+  EXPECT_THAT(dialogs.asked,
+              ::testing::ElementsAre("Choose the text file: ",
+                                     "Choose the pictures folder: " + folder.str(),
+                                     "Choose the pictures folder: " + folder.str(),
+                                     "Choose the cover picture: /pictures",
+                                     "Write the book to: " + folder.File("tale")));
 }
 
 }  // namespace

@@ -35,7 +35,8 @@ class FakeSpeech : public SpeechEngine {
   std::function<void()> finished_;
 };
 
-// The services, keeping every request; the file dialog answers `save_answer`.
+// The services, keeping every request; the file dialogs answer `save_answer`,
+// `open_answer` and `folder_answer`, and keep the titles and starting places asked.
 class FakeServices : public PeripheralServices, public CommonDialogs {
  public:
   void ShowManual() override { ++manuals; }
@@ -48,13 +49,19 @@ class FakeServices : public PeripheralServices, public CommonDialogs {
   CommonDialogs& Dialogs() override { return *this; }
   SpeechEngine& Speech() override { return speech; }
 
-  std::optional<FileChoice> AskSaveFile(std::string_view, std::string_view,
+  std::optional<FileChoice> AskSaveFile(std::string_view title, std::string_view start,
                                         const std::vector<std::string>&) override {
+    Asked(title, start);
     return save_answer;
   }
-  std::optional<FileChoice> AskOpenFile(std::string_view, std::string_view,
+  std::optional<FileChoice> AskOpenFile(std::string_view title, std::string_view start,
                                         const std::vector<std::string>&) override {
-    return std::nullopt;
+    Asked(title, start);
+    return open_answer;
+  }
+  std::optional<std::string> AskFolder(std::string_view title, std::string_view start) override {
+    Asked(title, start);
+    return folder_answer;
   }
   std::optional<uint32_t> AskColour(std::string_view, uint32_t) override { return std::nullopt; }
 
@@ -64,7 +71,15 @@ class FakeServices : public PeripheralServices, public CommonDialogs {
   std::string copied_text;
   std::vector<std::string> opened;
   std::optional<FileChoice> save_answer;
+  std::optional<FileChoice> open_answer;
+  std::optional<std::string> folder_answer;
+  std::vector<std::string> asked;  // "title: start" of every file dialog
   FakeSpeech speech;
+
+ private:
+  void Asked(std::string_view title, std::string_view start) {
+    asked.push_back(std::string(title) + ": " + std::string(start));
+  }
 };
 
 }  // namespace vireo::test

@@ -33,8 +33,7 @@ std::string Rewritten(std::string text, bool packed = true) {
   return text;
 }
 
-// Text long enough that the search after a reference never passes over
-// the next one.
+// Long enough that the search after a reference never passes over the next one.
 const std::string F = " and so the tale goes on for a while ";
 
 TEST(ImageStoreRewriting, ReferencesBecomeNumberedPlaceholders) {
@@ -50,7 +49,8 @@ TEST(ImageStoreRewriting, ReferencesBecomeNumberedPlaceholders) {
       {"[IMG SRC=\"pics/b.png\"]" + F + "[IMG SRC=\"c.png\"]", "[IMG=0]" + F + "[IMG=1]"},
       // Lower case, single quotes.
       {"[img src='A.png']", "[IMG=0]"},
-      {"[Img Src = 'a.PNG' alt=\"\"]", ""},  // the double quotes win: an empty name
+      {"[Img Src = 'a.PNG' alt=\"\"]", ""},        // the double quotes win: an empty name
+      {"[IMG ALT=\"x\" SRC='a.png']", "[IMG=0]"},  // but only after SRC
       // No quote pair, no name: cut out.
       {"[IMG SRC=a.png]" + F + "[IMG SRC=\"a.png]", F},
       // An opener without a closer ends the rewriting.
@@ -67,14 +67,6 @@ TEST(ImageStoreRewriting, ReferencesBecomeNumberedPlaceholders) {
   for (const Case& c : cases) EXPECT_EQ(Rewritten(c.text), c.expected) << c.text;
   EXPECT_EQ(Rewritten("<p><img src=\"a.png\">[IMG SRC='a.png']", false),
             "<p>[IMG=0][IMG SRC='a.png']");
-}
-
-TEST(ImageStoreRewriting, ExtractsTheQuotedNameAfterSrc) {
-  EXPECT_EQ(clsNewImages::ExtractFileName("[IMG SRC=\"A/B/C.PNG\"]"), "A\\B\\C.PNG");
-  EXPECT_EQ(clsNewImages::ExtractFileName("[IMG ALT='X' SRC='Y.PNG']"), "Y.PNG");
-  EXPECT_EQ(clsNewImages::ExtractFileName("[IMG ALT=\"X\" SRC='Y.PNG']"), "Y.PNG");
-  EXPECT_EQ(clsNewImages::ExtractFileName("[IMG SRC='Y.PNG' ALT=\"X\"]"), "X");
-  EXPECT_EQ(clsNewImages::ExtractFileName("[IMG]"), "");
 }
 
 TEST(ImageStore, NumbersFollowThePlaceholdersAndBadFilesKeepTheirs) {

@@ -88,5 +88,31 @@ TEST(BookPictures, PackedPicturesAndCoverShowWithoutFilesBesideTheBook) {
   EXPECT_EQ(held.find("SRC"), std::string::npos);
 }
 
+TEST(BookPictures, TheCreateEbookDialogPacksTheSampleTextWithItsPicturesAsTheToolDoes) {
+  test::ProgramFolder program;
+  const std::string sample = test::BinFolder() + "/samples/birdsong";
+  const auto made = test::StartAndQuit(
+      program, "Vireo",
+      {"VIREO_MENU=mnuEbook", "VIREO_EBOOK_TEXT=" + sample + "/birdsong.txt",
+       "VIREO_EBOOK_OUT=" + program.Path("Made"), "VIREO_EBOOK_IMAGES=" + sample + "/pictures",
+       "VIREO_EBOOK_COVER=" + sample + "/pictures/cover.png"});
+  ASSERT_EQ(made.status, 0) << made.err;
+  // The book finds both pictures though its folder holds none.
+  const std::string held =
+      test::Run(program.Path("vireo-tool") + " text " + program.Path("Made"), {}, program.folder())
+          .out;
+  EXPECT_NE(held.find("[IMG=0]"), std::string::npos) << held.substr(0, 400);
+  EXPECT_NE(held.find("[IMG=1]"), std::string::npos);
+  EXPECT_EQ(held.find("SRC"), std::string::npos);
+  // Pictures and cover are packed exactly as the tool packs them.
+  const auto tool = test::Run(program.Path("vireo-tool") + " make " + sample +
+                                  "/birdsong.txt -o " + program.Path("Tool") + " --stub " +
+                                  program.Path("Vireo") + " --title birdsong --images " + sample +
+                                  "/pictures --cover " + sample + "/pictures/cover.png",
+                              {}, program.folder());
+  ASSERT_EQ(tool.status, 0) << tool.err;
+  EXPECT_TRUE(test::ReadFile(program.Path("Made")) == test::ReadFile(program.Path("Tool")));
+}
+
 }  // namespace
 }  // namespace vireo

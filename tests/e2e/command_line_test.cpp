@@ -48,6 +48,14 @@ TEST_F(CommandLine, APackedBookNamedOnTheCommandLineOpensAsItsOwnEbookDoes) {
   EXPECT_NE(test::ReadFile(program_.Path("bare.png")), ebook);
 }
 
+TEST_F(CommandLine, OpenAsksTheCommonFileDialogWhichTheUnattendedRunAnswers) {
+  const std::string book = program_.Path("story.brn");
+  const auto run = test::StartAndQuit(program_, "Vireo",
+                                      {"VIREO_MENU=mnuOpen", "VIREO_ANSWER_FILE=" + book});
+  EXPECT_THAT(run.err, HasSubstr("[file] Open a book: " + book));
+  EXPECT_THAT(program_.Log(), HasSubstr("Loading from: " + book));
+}
+
 TEST_F(CommandLine, TheRegistrationNamesTheReaderAndNeverATemporaryCopy) {
   const std::string entry = program_.folder().File("xdg/applications/vireo.desktop");
   ASSERT_EQ(test::StartAndQuit(program_, "Story").status, 0);

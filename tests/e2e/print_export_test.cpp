@@ -33,6 +33,15 @@ TEST(Printing, APdfOfABookPageHoldsThatPagesWordsAndABadPrinterSaysSo) {
                               {"VIREO_MENU=mnuPrint", "VIREO_ANSWER_PRINT=/no/such/folder/x.pdf"});
   EXPECT_THAT(result.err, HasSubstr("[message] Printer Error!: "));
   EXPECT_THAT(result.err, HasSubstr("/no/such/folder/x.pdf"));
+
+  // A page with a picture carries it into the PDF.
+  std::filesystem::copy_file(test::BinFolder() + "/Birdsong", program.Path("Birdsong"));
+  result = test::StartAndQuit(
+      program, "Birdsong",
+      {"VIREO_MENU=mnuPrint", "VIREO_ANSWER_PRINT=" + pdf, "VIREO_ANSWER_PAGES=1-2"});
+  ASSERT_EQ(result.status, 0) << result.err;
+  const auto images = test::Run("pdfimages -list " + pdf, {}, program.folder());
+  EXPECT_THAT(images.out, HasSubstr(" image ")) << images.out;
 }
 
 // The export's encodings are checked through the fake window.

@@ -34,13 +34,22 @@ class EventRecorder : public ReindexEvents {
   std::function<bool()> busy_;
 };
 
-// Tables where every character of every style is `width` wide.
-inline clsFontMetrics UniformMetrics(double width) {
-  std::array<double, clsFontMetrics::kTableSize> table;
-  table.fill(width);
+// Tables whose character of code 1..kTableSize is width(code, bold) wide in either slant.
+template <typename Width>
+clsFontMetrics MetricsOf(Width width) {
   clsFontMetrics metrics;
-  for (int style = 0; style < 4; ++style) metrics.SetTable(style & 1, style & 2, table);
+  for (int style = 0; style < 4; ++style) {
+    std::array<double, clsFontMetrics::kTableSize> table;
+    for (int code = 1; code <= clsFontMetrics::kTableSize; ++code) {
+      table[code - 1] = width(code, (style & 1) != 0);
+    }
+    metrics.SetTable(style & 1, style & 2, table);
+  }
   return metrics;
+}
+
+inline clsFontMetrics UniformMetrics(double width) {
+  return MetricsOf([width](int, bool) { return width; });
 }
 
 // One line per page, "start bold italic underline", as vireo-tool prints it.

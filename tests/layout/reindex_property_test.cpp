@@ -116,18 +116,15 @@ class Generator {
   }
 
   clsFontMetrics Metrics(bool allow_negative) {
-    clsFontMetrics metrics;
     const int mode = Int(0, 2);
-    for (int style = 0; style < 4; ++style) {
-      std::array<double, clsFontMetrics::kTableSize> table;
-      for (double& width : table) {
-        // Whole numbers fit exactly; fractions make sums depend on their order.
-        width = mode == 0 ? Int(5, 20) * 10.0 : mode == 1 ? Int(0, 3000) / 7.0 : Int(0, 2) * 75.0;
-        if (allow_negative && Chance(5)) width = -width - 1;
-      }
-      metrics.SetTable(style & 1, style & 2, table);
-    }
-    return metrics;
+    return test::MetricsOf([&](int, bool) {
+      // Whole numbers fit exactly; fractions make sums depend on their order.
+      double width = mode == 0   ? Int(5, 20) * 10.0
+                     : mode == 1 ? Int(0, 3000) / 7.0
+                                 : Int(0, 2) * 75.0;
+      if (allow_negative && Chance(5)) width = -width - 1;
+      return width;
+    });
   }
 
   Case AnyCase() {

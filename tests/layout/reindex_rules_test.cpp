@@ -1,5 +1,7 @@
 // The paginator's rules on tables where every character is 100 wide; page k
-// starts at the blank or line feed in front of the word that opened it.
+// starts at the blank or line feed in front of the word that opened it. Style
+// codes are written in octal: \200 bold on, \201 off, \202 italic on, \203 off,
+// \206 page end, \207 underline on.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -34,65 +36,44 @@ Paginated Paginate(std::string text, double line_width, int16_t lines_per_page,
 }
 
 TEST(ReindexRules, PageStartsAndCarriedStyles) {
-  const std::string split_word = std::string(10, 'x') + "\x80" + std::string(14, 'x');
+  const std::string x20(20, 'x'), x21(21, 'x');
   const struct {
-    const char* what;
     std::string text;
     double line_width;
     int16_t lines_per_page;
     std::vector<std::string> pages;
   } cases[] = {
-      // "aa " fills the 300-wide line; "bb" ends the text and completes a line.
-      {"the line completing the last page at the end opens a page at the length",
-       "aa bb",
-       300,
-       1,
-       {"1 0 0 0", "5 0 0 0"}},
-      {"a line that leaves the last page open does not", "aa bb", 300, 2, {"1 0 0 0"}},
-      // 10 characters fit 1050, the piece takes 11 (bold carried); the rest opens page 3.
-      {"a long word is split one character past its longest fitting prefix",
-       "a " + split_word + " end",
+      // "aa " fills the 300-wide line; "bb" ends the text and completes a line, which
+      // opens a page at the text's length when it completes the last page, else not.
+      {"aa bb", 300, 1, {"1 0 0 0", "5 0 0 0"}},
+      {"aa bb", 300, 2, {"1 0 0 0"}},
+      // 10 characters fit 1050: a long word is split one character past its longest fitting
+      // prefix (bold carried); the rest opens page 3.
+      {"a xxxxxxxxxx\200xxxxxxxxxxxxxx end",
        1050,
        1,
        {"1 0 0 0", "2 1 0 0", "2 0 0 0", "31 0 0 0"}},
-      {"a word of 20 characters is laid out whole",
-       "a " + std::string(20, 'x') + " b",
-       1000,
-       1,
-       {"1 0 0 0", "2 0 0 0", "24 0 0 0"}},
-      // A 10-character piece fits exactly, without overhang.
-      {"a word of 21 characters is split",
-       "a " + std::string(21, 'x') + " b",
-       1000,
-       1,
-       {"1 0 0 0", "2 0 0 0", "2 0 0 0", "25 0 0 0"}},
-      // "\x80b-" still fits after "aaaa ": page 2 starts bold at the blank before it.
-      {"a hyphen inside a word breaks it",
-       "aaaa \x80"
-       "b-cc dddd",
-       800,
-       1,
-       {"1 0 0 0", "5 1 0 0", "15 0 0 0"}},
-      // Broken at the hyphen, a 20-character word would be left whole.
-      {"a leading hyphen does not break",
-       "a -" + std::string(20, 'x') + " b",
-       1000,
-       1,
-       {"1 0 0 0", "2 0 0 0", "2 0 0 0", "25 0 0 0"}},
-      {"the last word of the text is not broken", "aaaa bb-cc", 700, 1, {"1 0 0 0", "10 0 0 0"}},
-      {"code 134 ends the page after its line", "aa \x86 bb cc", 10000, 5, {"1 0 0 0", "3 0 0 0"}},
-      // Page 2 does not mention the open styles, so page 3 starts plain; italic
-      // opened and closed on page 3 is not carried.
-      {"styles are carried from the page just finished only",
-       "\x80\x82\x87 bbb \x82\x83"
-       "x ddd \x81"
-       "ee",
+      // A word of 20 characters is laid out whole; one of 21 is split, its 10-character piece
+      // fitting exactly.
+      {"a " + x20 + " b", 1000, 1, {"1 0 0 0", "2 0 0 0", "24 0 0 0"}},
+      {"a " + x21 + " b", 1000, 1, {"1 0 0 0", "2 0 0 0", "2 0 0 0", "25 0 0 0"}},
+      // A hyphen inside a word breaks it: "\200b-" still fits after "aaaa ", page 2 starts
+      // bold at the blank before it. A leading hyphen does not (else the 20 would stay whole),
+      // nor one in the text's last word.
+      {"aaaa \200b-cc dddd", 800, 1, {"1 0 0 0", "5 1 0 0", "15 0 0 0"}},
+      {"a -" + x20 + " b", 1000, 1, {"1 0 0 0", "2 0 0 0", "2 0 0 0", "25 0 0 0"}},
+      {"aaaa bb-cc", 700, 1, {"1 0 0 0", "10 0 0 0"}},
+      // Code 134 ends the page after its line.
+      {"aa \206 bb cc", 10000, 5, {"1 0 0 0", "3 0 0 0"}},
+      // Styles are carried from the page just finished only: page 2 does not mention the open
+      // styles, so page 3 starts plain; italic opened and closed on page 3 is not carried.
+      {"\200\202\207 bbb \202\203x ddd \201ee",
        400,
        1,
        {"1 0 0 0", "4 1 1 1", "8 0 0 0", "12 0 0 0", "19 0 0 0"}},
   };
   for (const auto& c : cases) {
-    SCOPED_TRACE(c.what);
+    SCOPED_TRACE(c.text);
     EXPECT_EQ(Paginate(c.text, c.line_width, c.lines_per_page).pages, c.pages);
   }
 }

@@ -59,10 +59,7 @@ class FakePageBuffers : public PageBuffers {
   void SetBoxVisible(int, Visibility) override {}
   void RaiseBox(int) override {}
   void SetLamp(Lamp lamp) override { lamps.push_back(lamp); }
-  void SetLineMarker(int frame, double top, double) override {
-    marker_frame = frame;
-    marker_top = top;
-  }
+  void SetLineMarker(int frame, double, double) override { marker_frame = frame; }
   TwipsSize LanguageListSize() const override { return {1500, 1200}; }
   void PlaceLanguageList(const LanguageListPlacement& where) override { placement = where; }
   void SetLanguageListVisible(bool) override {}
@@ -82,7 +79,6 @@ class FakePageBuffers : public PageBuffers {
   std::vector<std::string> calls;  // "texture BOX SLOT", "refresh BOX"
   std::optional<LanguageListPlacement> placement;
   int marker_frame = -1;
-  double marker_top = 0;
   const Picture* cover = nullptr;  // the cover on show
   FakePictureDecoder decoder;
 };

@@ -3,12 +3,12 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <random>
 
 #include "fake_pump.h"
 #include "fake_surface.h"
 #include "layout/font_metrics.h"
+#include "layout/pagination_fixtures.h"
 #include "literal_composer.h"
 #include "render/print_page.h"
 
@@ -33,21 +33,11 @@ class Placed : public PrintPageObserver {
   std::vector<std::pair<int, size_t>> images;
 };
 
-// Width 10 for every character but "z" and the style codes (none): many prefixes fit exactly.
-clsFontMetrics WidthsWithZeros() {
-  clsFontMetrics metrics;
-  std::array<double, clsFontMetrics::kTableSize> widths;
-  for (int code = 1; code <= clsFontMetrics::kTableSize; ++code) {
-    const bool none = code == 'z' || (code >= 0x80 && code <= 0x88);
-    widths[code - 1] = none ? 0 : 10;
-  }
-  for (int style = 0; style < 4; ++style) metrics.SetTable(style & 1, style & 2, widths);
-  return metrics;
-}
-
 void ExpectAsTheLiteralRules(const std::string& text, double line_width) {
   SCOPED_TRACE(testing::Message() << "width " << line_width << ": " << text);
-  const clsFontMetrics metrics = WidthsWithZeros();
+  // Width 10 for every character but "z" and the style codes (none): many prefixes fit exactly.
+  const clsFontMetrics metrics = test::MetricsOf(
+      [](int code, bool) { return code == 'z' || (code >= 0x80 && code <= 0x88) ? 0.0 : 10.0; });
   PageSettings settings;
   settings.page_text = text;
   settings.line_width = line_width;

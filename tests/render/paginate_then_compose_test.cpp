@@ -2,13 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <random>
 
 #include "book/cls_strip_cr.h"
 #include "sample_text.h"
 #include "fake_pump.h"
 #include "layout/font_metrics.h"
+#include "layout/pagination_fixtures.h"
 #include "layout/reindex.h"
 #include "render/print_page.h"
 
@@ -18,14 +18,9 @@ namespace {
 TEST(PaginateThenCompose, EveryPageFitsItsLines) {
   std::mt19937 random(2024);
   // Proportional widths from 45 to 150 twips, bold a tenth wider, line feeds of no width.
-  clsFontMetrics metrics;
-  for (int style = 0; style < 4; ++style) {
-    std::array<double, clsFontMetrics::kTableSize> widths{};
-    for (int code = 1; code <= clsFontMetrics::kTableSize; ++code) {
-      widths[code - 1] = code == 10 ? 0 : (45 + code * 37 % 106) * ((style & 1) ? 1.1 : 1.0);
-    }
-    metrics.SetTable(style & 1, style & 2, widths);
-  }
+  const clsFontMetrics metrics = test::MetricsOf([](int code, bool bold) {
+    return code == 10 ? 0 : (45 + code * 37 % 106) * (bold ? 1.1 : 1.0);
+  });
   test::RecordingPump pump;
   for (int book = 0; book < 6; ++book) {
     std::string text = samples::ProseLikeText(random, 60'000);

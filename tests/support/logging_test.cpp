@@ -110,13 +110,5 @@ TEST_F(LoggingTest, ALogPastTheLimitBecomesTheOldCopyAndANewOneBegins) {
   EXPECT_EQ(Log().find("Log file created "), 14u);
 }
 
-TEST(FOSName, FollowsTheVersionTableWithItsGaps) {
-  using P = OsVersionInfo::Platform;
-  EXPECT_EQ(FOSName({P::kWindowsNt, 7, 3, ""}), "WINNT6+");
-  EXPECT_EQ(FOSName({P::kWindowsNt, 6, 1, ""}), "");
-  EXPECT_EQ(FOSName({P::kWindows9x, 4, 3, ""}), "WIN32");
-  EXPECT_EQ(FOSName({P::kOther, 0, 0, "Linux 6.1"}), "Linux 6.1");
-}
-
 }  // namespace
 }  // namespace vireo
