@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "app/page_limit.h"
 #include "nav/bookmarks.h"
 #include "render/status_lamp.h"
 #include "support/error_trap.h"
@@ -84,7 +85,7 @@ void BookSession::ReadBookmark() {
     int32_t page = 1;
     if (position != 0) {
       page = WhichPage(pages, position);
-      if (page > pages.count) page = pages.count;
+      if (page > context_.book.PageCount()) page = context_.book.PageCount();
       if (page == 0) page = 1;
     }
     if (page % 2 == 0) page -= 1;
@@ -141,7 +142,17 @@ void BookSession::ReindexFile(bool keep_position) {
     ++version_;  // pictures may have made room for themselves in the text
     context_.reindexing = false;
     GreenShape(context_.buffers, context_.pump);
+    WarnOfUnshownPages();
   });
+}
+
+// More pages than 16-bit page numbers reach: the design's overflow is logged,
+// the pages that fit stay readable, and the reader is told how to see more.
+void BookSession::WarnOfUnshownPages() {
+  const std::string message = PageLimitMessage(context_.book);
+  if (message.empty()) return;
+  LogError(RuntimeError(ErrorNumber::kOverflow), "sub reindexfile", kModule);
+  context_.user.ShowMessage(message, "Vireo");
 }
 
 // Raised after every word while the count sits on a multiple of 25: running
