@@ -6,6 +6,7 @@
 #include "nav/bookmarks.h"
 #include "render/status_lamp.h"
 #include "support/error_trap.h"
+#include "support/milestones.h"
 #include "support/translation.h"
 
 namespace vireo {
@@ -136,6 +137,7 @@ void BookSession::ReindexFile(bool keep_position) {
     spread_.cache().ResetCache();
     const PageTextArea& area = spread_.text_area();
     spread_.plotter().EnsureFontTables();
+    WriteMilestone("font tables");
     context_.reindex.NewReindexFile(context_.book.text, InsertMode::kAllowed, context_.book.index,
                                     reading_position, area.text_width, area.lines_per_page,
                                     area.line_height);
