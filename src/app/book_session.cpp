@@ -6,6 +6,7 @@
 #include "nav/bookmarks.h"
 #include "render/status_lamp.h"
 #include "support/error_trap.h"
+#include "support/logging.h"
 #include "support/milestones.h"
 #include "support/translation.h"
 
@@ -154,6 +155,9 @@ void BookSession::WarnOfUnshownPages() {
   const std::string message = PageLimitMessage(context_.book);
   if (message.empty()) return;
   LogError(RuntimeError(ErrorNumber::kOverflow), "sub reindexfile", kModule);
+  LogAction("The book has " + std::to_string(context_.book.index.count) +
+            " pages; those after page " + std::to_string(BookPages::kLastShowablePage) +
+            " cannot be shown");
   context_.user.ShowMessage(message, "Vireo");
 }
 

@@ -30,7 +30,7 @@ bool Logged(std::string_view entry) {
 }
 
 TEST(PageLimit, PagesBeyondSixteenBitsAreExplainedAndTheRestStaysReadable) {
-  test::FakeReader reader(ManyShortLines(400'000), "FontSize,48\r\nINSTANTPAGETURN,True\r\n");
+  test::FakeReader reader(ManyShortLines(700'000), "FontSize,48\r\nINSTANTPAGETURN,True\r\n");
   reader.Start();
   const int32_t last = BookPages::kLastShowablePage;
   ASSERT_GT(reader.logic.pages().count, last);
