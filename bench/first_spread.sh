@@ -3,7 +3,9 @@
 # the end of pagination, on an ebook (default: the whole-Bible sample, about
 # 4.3 MB of text), beside the floor: a bare Qt window of the same size from
 # start to its first frame. Prints medians of several runs in milliseconds,
-# and the peak memory of both (maximum resident set size).
+# the peak memory of both (maximum resident set size), and where the reader's
+# start-up time goes: each VIREO_TIMING milestone with its median time from
+# process start and the time of the step that ends there.
 #   bench/first_spread.sh [BUILD_BIN_FOLDER] [BOOK] [RUNS]
 set -euo pipefail
 bin="${1:-build/release/bin}"
@@ -14,7 +16,8 @@ trap 'rm -rf "$work"' EXIT
 cp "$book" "$bin/libvHtml.so" "$bin"/paper*.jpg "$work/" 2>/dev/null || cp "$book" "$bin/libvHtml.so" "$work/"
 name=$(basename "$book")
 
-# Runs a program with timing on; prints "<ms to the milestone> <peak KB>".
+# Runs a program with timing on; prints "<ms to the milestone> <peak KB>"
+# and appends every milestone of the run to $work/steps as "<ms> <name>".
 timed_run() {
   local milestone="$1"
   shift
@@ -28,21 +31,29 @@ timed_run() {
   peak=$(awk '/^\[peak\]/ {print $2}' "$work/err")
   echo "$((at - start)) $peak"
   if [ "$milestone" = "first spread" ]; then
-    at=$(awk '/\[timing\] pagination finished/ {print $NF}' "$work/err")
-    echo "$((at - start)) $peak" >>"$work/finish"
+    awk -v s="$start" '/^\[timing\] / {n = $NF; $1 = ""; $NF = ""; gsub(/^ +| +$/, ""); print n - s, $0}' \
+      "$work/err" >>"$work/steps"
   fi
 }
 median() { sort -n | awk '{a[NR]=$1} END {print a[int((NR+1)/2)]}'; }
 
 : >"$work/reader"
 : >"$work/bare"
-: >"$work/finish"
+: >"$work/steps"
 for _ in $(seq "$runs"); do
   timed_run "first frame" "$bin/vireo_bare_window" >>"$work/bare"
   timed_run "first spread" "$work/$name" >>"$work/reader"
 done
+step_median() { awk -v m="$1" '{t = $1; $1 = ""; sub(/^ /, "")} $0 == m {print t}' "$work/steps" | median; }
 text=$("$bin/vireo-tool" info "$work/$name" | awk '/^unpacked:/ {print $2}')
 echo "first spread on screen: $(cut -d' ' -f1 "$work/reader" | median) ms (median of $runs)"
-echo "pagination finished:    $(cut -d' ' -f1 "$work/finish" | median) ms"
+echo "pagination finished:    $(step_median "pagination finished") ms"
 echo "bare window first frame: $(cut -d' ' -f1 "$work/bare" | median) ms"
 echo "peak memory: reader $(cut -d' ' -f2 "$work/reader" | median) KB, bare window $(cut -d' ' -f2 "$work/bare" | median) KB, book text $((text / 1024)) KB"
+echo "where the start-up time goes (median ms from process start; the step's own time):"
+previous=0
+while read -r milestone; do
+  at=$(step_median "$milestone")
+  printf '  %-20s %6s %6s\n' "$milestone" "$at" "$((at - previous))"
+  previous=$at
+done < <(awk '{$1 = ""; sub(/^ /, ""); print}' "$work/steps" | awk '!seen[$0]++')

@@ -2,9 +2,12 @@
 
 #include <algorithm>
 
+#include "app/page_limit.h"
 #include "nav/bookmarks.h"
 #include "render/status_lamp.h"
 #include "support/error_trap.h"
+#include "support/logging.h"
+#include "support/milestones.h"
 #include "support/translation.h"
 
 namespace vireo {
@@ -84,7 +87,7 @@ void BookSession::ReadBookmark() {
     int32_t page = 1;
     if (position != 0) {
       page = WhichPage(pages, position);
-      if (page > pages.count) page = pages.count;
+      if (page > context_.book.PageCount()) page = context_.book.PageCount();
       if (page == 0) page = 1;
     }
     if (page % 2 == 0) page -= 1;
@@ -135,13 +138,27 @@ void BookSession::ReindexFile(bool keep_position) {
     spread_.cache().ResetCache();
     const PageTextArea& area = spread_.text_area();
     spread_.plotter().EnsureFontTables();
+    WriteMilestone("font tables");
     context_.reindex.NewReindexFile(context_.book.text, InsertMode::kAllowed, context_.book.index,
                                     reading_position, area.text_width, area.lines_per_page,
                                     area.line_height);
     ++version_;  // pictures may have made room for themselves in the text
     context_.reindexing = false;
     GreenShape(context_.buffers, context_.pump);
+    WarnOfUnshownPages();
   });
+}
+
+// More pages than 16-bit page numbers reach: the design's overflow is logged,
+// the pages that fit stay readable, and the reader is told how to see more.
+void BookSession::WarnOfUnshownPages() {
+  const std::string message = PageLimitMessage(context_.book);
+  if (message.empty()) return;
+  LogError(RuntimeError(ErrorNumber::kOverflow), "sub reindexfile", kModule);
+  LogAction("The book has " + std::to_string(context_.book.index.count) +
+            " pages; those after page " + std::to_string(BookPages::kLastShowablePage) +
+            " cannot be shown");
+  context_.user.ShowMessage(message, "Vireo");
 }
 
 // Raised after every word while the count sits on a multiple of 25: running

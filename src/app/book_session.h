@@ -67,6 +67,7 @@ class BookSession : public ReindexEvents {
 
  private:
   void ShowPageCount(int32_t page_count, uint32_t colour);
+  void WarnOfUnshownPages();
 
   ReaderContext& context_;
   BookSpread& spread_;

@@ -57,7 +57,7 @@ void BookSpread::ShowPage(int page) {
     const PageIndex& pages = context_.book.index;
     if (!context_.book.loaded || pages.count < 1) return;
     ReadingState& reading = context_.reading;
-    int first = std::clamp(page, 1, static_cast<int>(pages.count));
+    int first = std::clamp(page, 1, context_.book.PageCount());
     if (reading.mode == PageMode::kDouble && first % 2 == 0) first -= 1;
     reading.current_page = reading.mode == PageMode::kDouble ? first + 1 : first;
     cache_.ResetCache();
@@ -89,7 +89,7 @@ void BookSpread::RedrawPages() {
 void BookSpread::DrawSpreadAt(int32_t position) {
   const PageIndex& pages = context_.book.index;
   ReadingState& reading = context_.reading;
-  int32_t page = std::clamp<int32_t>(WhichPage(pages, position), 1, pages.count);
+  int32_t page = std::clamp<int32_t>(WhichPage(pages, position), 1, context_.book.PageCount());
   if (reading.mode == PageMode::kSingle) {
     reading.current_page = page;
     plotter_.ClearPage(kLeftPageBox);
@@ -116,6 +116,9 @@ void BookSpread::SyncTurnSettings() {
 
 void BookSpread::NextPage() {
   if (context_.reindexing) return;
+  // Past the last spread a forward turn still moves the page number on; it
+  // stops where the next number would not fit in 16 bits.
+  if (context_.reading.current_page > INT16_MAX - 2) return;
   SyncTurnSettings();
   if (context_.reading.mode == PageMode::kSingle) {
     turner_.SinglePageNext(context_.book.PageCount());

@@ -23,6 +23,7 @@
 #include "app/main_window.h"
 #include "app/page_setup_qt.h"
 #include "support/error_trap.h"
+#include "support/milestones.h"
 #include "support/platform.h"
 
 #if !defined(_WIN32)
@@ -214,8 +215,10 @@ void ScheduleAutomation(vireo::MainWindow& window, vireo::UserInteraction& user)
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  vireo::WriteMilestone("main entered");
   CatchSignals();
   QApplication application(argc, argv);
+  vireo::WriteMilestone("qt ready");
   std::unique_ptr<vireo::UserInteraction> user;
   auto* qt_user = new vireo::QtUserInteraction();
   if (vireo::NonInteractiveMode()) {
@@ -226,6 +229,7 @@ int main(int argc, char* argv[]) {
     user.reset(qt_user);
   }
   vireo::MainWindow window(*user, vireo::LocateRunningProgram());
+  vireo::WriteMilestone("window made");
   if (qt_user != nullptr) qt_user->set_parent(&window);
   const std::function<void()> started = QuitOnSignals(window);
   vireo::SetErrorObserver(

@@ -5,7 +5,6 @@
 #include <QPalette>
 #include <QScreen>
 
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 
@@ -28,6 +27,7 @@
 #include "render/book_display.h"
 #include "support/logging.h"
 #include "support/maker.h"
+#include "support/milestones.h"
 #include "support/platform.h"
 #include "support/translation.h"
 
@@ -325,19 +325,13 @@ void MainWindow::SetBarLabel(BarLabel label, std::string_view text, uint32_t col
   control->setPalette(palette);
 }
 
-// VIREO_TIMING=1: each milestone is written to standard error with the wall
-// clock in milliseconds since the epoch, so that a script that noted when it
-// started the program can tell how long the milestone took. Frames waiting
-// to be painted are painted first, so that what the milestone names is on
-// screen when it is stamped.
+// VIREO_TIMING=1: frames waiting to be painted are painted first, so that
+// what the milestone names is on screen when it is stamped.
 void MainWindow::Milestone(std::string_view what) {
   static const bool timing = std::getenv("VIREO_TIMING") != nullptr;
   if (!timing) return;
   QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
-  const auto now = std::chrono::duration_cast<std::chrono::milliseconds>(
-      std::chrono::system_clock::now().time_since_epoch());
-  std::fprintf(stderr, "[timing] %.*s %lld\n", static_cast<int>(what.size()), what.data(),
-               static_cast<long long>(now.count()));
+  WriteMilestone(what);
 }
 
 void MainWindow::SetMenuTick(std::string_view item, bool ticked) {

@@ -6,6 +6,7 @@
 #include "support/error_trap.h"
 #include "support/logging.h"
 #include "support/maker.h"
+#include "support/milestones.h"
 #include "support/platform.h"
 #include "support/translation.h"
 #include "support/vhtml_library.h"
@@ -113,6 +114,7 @@ void ProgramLifecycle::RunStartupSteps() {
     LogAction(GetTranslation("Loading Textures"));
     spread_.LoadPaperTextures();
   });
+  WriteMilestone("textures loaded");
   StartupStep([&] {
     LogAction("Scanning fonts");
     view.ShowProgress(GetTranslation("Scanning fonts..."));
@@ -123,6 +125,7 @@ void ProgramLifecycle::RunStartupSteps() {
   });
   StartupStep([&] { program_folder_ = ProgramFolderString(folder); });
   StartupStep([&] { ApplyPreferences(); });
+  WriteMilestone("settings read");
   StartupStep([&] {
     context_.reformat = sget("Reformat", true).ToBoolean();
     view.SetMenuTick("mnuFormatting", context_.reformat);
@@ -142,6 +145,7 @@ void ProgramLifecycle::RunStartupSteps() {
     context_.busy = false;
     view.ShowMainWindow();
   });
+  WriteMilestone("window shown");
   StartupStep([&] { loader_.OpenBook(context_.location.executable_path); });
   StartupStep([&] { view.SetExitCaption(ExitCaption()); });
   StartupStep([&] {

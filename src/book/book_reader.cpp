@@ -15,6 +15,7 @@
 #include "support/error_trap.h"
 #include "support/file_io.h"
 #include "support/logging.h"
+#include "support/milestones.h"
 #include "support/platform.h"
 #include "support/translation.h"
 
@@ -133,6 +134,7 @@ BookReadResult ReadEmbeddedBook(const std::string& path, const FormattingOptions
   try {
     LogAction("Loading from: " + path);
     std::string file = ReadWholeFile(path);
+    WriteMilestone("book read");
     const PackedPictures packed = TakePictureSection(file);
     if (const PackedPicture* cover = packed.Cover()) result.packed_cover = cover->bytes;
     const std::string header_marker = HeaderMarker();

@@ -9,6 +9,7 @@
 #include "book/word_table.h"
 #include "support/error_trap.h"
 #include "support/file_io.h"
+#include "support/milestones.h"
 #include "support/platform.h"
 #include "support/text_helpers.h"
 #include "support/translation.h"
@@ -112,9 +113,11 @@ void clsBIN::ConvertLoadedBRN() {
     book_folder_ = ProgramFolder() + kSeparator;
     Progress(Translatable("Unpacking"), 30);
     DecodeAndExtract();
+    WriteMilestone("book unpacked");
     Progress(Translatable("Reformatting Text"), 50);
     DecodeDetails();
     Finish(80);
+    WriteMilestone("book reformatted");
   });
 }
 

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "book/word_table.h"
+#include "support/large_buffer.h"
 
 namespace vireo {
 namespace {
@@ -72,6 +73,7 @@ std::optional<ExtractedBook> ExpandInReadingOrder(std::string_view body) {
   // straddles the trailer is expanded whole; its end is written over.
   const size_t second_half = trailer_start - (last_offset + 1);
   const size_t first_half = first_offset - kLeadInLength;
+  ReserveLarge(book.text, second_half + first_half + 2 * kExpansionSlack);
   book.text.assign(second_half + first_half + 2 * kExpansionSlack, '\0');
   char* out = book.text.data();
   ExpandInto(body.substr(last + 1, trailer.index - (last + 1)), out);

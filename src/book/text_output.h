@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "support/large_buffer.h"
+
 namespace vireo {
 
 // Where a left-to-right rewriting pass writes its result. Both kinds offer
@@ -52,6 +54,7 @@ class StringOutput {
  public:
   static constexpr bool kCanGrow = true;
   StringOutput(std::string_view source, size_t capacity) : source_(source) {
+    ReserveLarge(out_, capacity);
     out_.resize(capacity);
   }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <cstdint>
 #include <string>
 
 #include "layout/page_index.h"
@@ -22,8 +24,13 @@ struct BookPages {
   PageIndex index;
   bool loaded = false;  // false: no book, the title page is shown
 
-  // The page count n while a book is loaded, else 0.
-  int PageCount() const { return loaded ? index.count : 0; }
+  // Page numbers on show are 16-bit, and a spread and its cache reach two
+  // pages past the current one: pages beyond this one cannot be shown.
+  static constexpr int32_t kLastShowablePage = INT16_MAX - 3;
+
+  // The pages that can be shown while a book is loaded (the page count n, at
+  // most kLastShowablePage), else 0.
+  int PageCount() const { return loaded ? std::min(index.count, kLastShowablePage) : 0; }
   // Page `page`, 1..PageCount(): its text and the styles open at its top.
   PageContent Page(int page) const;
 };

@@ -14,19 +14,30 @@ std::function<void(const std::string&)>& ErrorObserver() {
   return observer;
 }
 
+// "<procedure>(<number>)", as the log names the procedure an error left.
+std::string LoggedName(const RuntimeError& error, std::string_view procedure) {
+  std::string name(procedure);
+  name += '(';
+  name += std::to_string(error.number());
+  name += ')';
+  return name;
+}
+
 }  // namespace
 
 void SetErrorObserver(std::function<void(const std::string& entry)> observer) {
   ErrorObserver() = std::move(observer);
 }
 
+void LogError(const RuntimeError& error, std::string_view procedure, std::string_view module) {
+  LogProc(error.description(), LoggedName(error, procedure), module);
+}
+
 void RecordError(const RuntimeError& error, std::string_view procedure, std::string_view module) {
-  std::string name(procedure);
-  name += '(';
-  name += std::to_string(error.number());
-  name += ')';
-  LogProc(error.description(), name, module);
-  if (ErrorObserver()) ErrorObserver()(ActionEntry(error.description(), name, module));
+  LogError(error, procedure, module);
+  if (ErrorObserver()) {
+    ErrorObserver()(ActionEntry(error.description(), LoggedName(error, procedure), module));
+  }
 }
 
 void RecordCurrentException(std::string_view procedure, std::string_view module) noexcept {

@@ -15,6 +15,10 @@ namespace vireo {
 // "Type mismatch in sub readsettings(13) of module frmMain".
 void RecordError(const RuntimeError& error, std::string_view procedure, std::string_view module);
 
+// Logs the error as RecordError does without offering an error report: for
+// an error the program explains to the person itself.
+void LogError(const RuntimeError& error, std::string_view procedure, std::string_view module);
+
 // Called with every error recorded by RecordError, as its action entry, so
 // that the program can offer the person an error report. Empty: none.
 void SetErrorObserver(std::function<void(const std::string& entry)> observer);

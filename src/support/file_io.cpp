@@ -8,6 +8,7 @@
 #include <fstream>
 #include <system_error>
 
+#include "support/large_buffer.h"
 #include "support/logging.h"
 #include "support/runtime_error.h"
 
@@ -91,6 +92,7 @@ std::string ReadWholeFile(const std::string& path) {
   in.seekg(0, std::ios::end);
   const auto size = in.tellg();
   if (size < 0) throw RuntimeError(ErrorNumber::kPathFileAccess);
+  ReserveLarge(content, static_cast<size_t>(size));
   content.resize(static_cast<size_t>(size));
   in.seekg(0, std::ios::beg);
   in.read(content.data(), size);
