@@ -58,7 +58,7 @@ void BookCanvasWidget::SetLanguages(const QStringList& names, int chosen) {
 void BookCanvasWidget::ResizeBuffers(double width_twips, double height_twips) {
   const qreal ratio = devicePixelRatioF();
   for (int box = 0; box < 8; ++box) {
-    surfaces_[box]->EndPainting();
+    surfaces_[box]->DropDrawing();
     images_[box] = BlankBuffer(width_twips, height_twips, ratio);
     surfaces_[box]->Clear();
   }
@@ -107,7 +107,7 @@ const QImage* BookCanvasWidget::Texture(int slot) {
 }
 
 void BookCanvasWidget::CopyBox(int source_box, int destination_box) {
-  surfaces_[destination_box]->EndPainting();
+  surfaces_[destination_box]->DropDrawing();  // every pixel is replaced
   QPainter painter(&images_[destination_box]);
   painter.setCompositionMode(QPainter::CompositionMode_Source);
   painter.drawImage(QPointF(0, 0), BoxImage(source_box));

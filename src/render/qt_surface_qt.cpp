@@ -186,13 +186,24 @@ void QtSurface::DrawPendingGlyphs() {
 // One painter serves a whole page of runs; it is ended before anything else
 // touches the image.
 QPainter& QtSurface::Painter() {
-  if (!painter_) painter_ = std::make_unique<QPainter>(image_);
+  if (!painter_) {
+    FinishClear();
+    painter_ = std::make_unique<QPainter>(image_);
+  }
   return *painter_;
 }
 
 void QtSurface::EndPainting() {
   DrawPendingGlyphs();
   painter_.reset();
+  FinishClear();
+}
+
+void QtSurface::DropDrawing() {
+  pending_.glyphs.clear();
+  pending_.positions.clear();
+  painter_.reset();
+  clear_pending_ = false;
 }
 
 void QtSurface::DrawPicture(const QImage& picture, double x_twips, double y_twips) {
@@ -214,13 +225,21 @@ void QtSurface::PaintPicture(const Picture& picture, double left, double top, do
 }
 
 void QtSurface::Clear() {
-  EndPainting();
+  DropDrawing();
   SetCurrentX(0);
   SetCurrentY(0);
-  image_->fill(ColorFromBgr(back_color_));
-  if (texture_.isNull()) return;
+  clear_pending_ = true;
+  clear_colour_ = back_color_;
+  clear_texture_ = texture_;
+}
+
+void QtSurface::FinishClear() const {
+  if (!clear_pending_) return;
+  clear_pending_ = false;
+  image_->fill(ColorFromBgr(clear_colour_));
+  if (clear_texture_.isNull()) return;
   QPainter painter(image_);
-  painter.drawImage(QPointF(0, 0), texture_);
+  painter.drawImage(QPointF(0, 0), clear_texture_);
 }
 
 }  // namespace vireo

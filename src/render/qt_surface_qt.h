@@ -45,10 +45,17 @@ class QtSurface : public Surface {
     EndPainting();
     return *image_;
   }
-  const QImage& image() const { return *image_; }
+  const QImage& image() const {
+    FinishClear();
+    return *image_;
+  }
   // Finishes the drawing in progress (text is drawn through one painter that
-  // stays open between runs); call before using the image otherwise.
+  // stays open between runs, and a cleared image gets its paper when it is
+  // next used); call before using the image otherwise.
   void EndPainting();
+  // Forgets the drawing in progress and a clear not yet made, for an image
+  // that is about to be replaced.
+  void DropDrawing();
 
   // Defaults: "Times New Roman", 12 points, plain.
   void SetFontName(std::string_view name) override;
@@ -121,6 +128,14 @@ class QtSurface : public Surface {
   };
   mutable std::map<GlyphKey, GlyphTable> glyph_tables_;
   std::unique_ptr<QPainter> painter_;
+  // A clear waits until the image is next drawn on or used: the page
+  // buffers are cleared many times (start-up, layout, every turn's refill)
+  // for each time their paper is seen. Colour and texture are those of the
+  // moment of the clear.
+  void FinishClear() const;
+  mutable bool clear_pending_ = false;
+  uint32_t clear_colour_ = 0;
+  QImage clear_texture_;
   // Text drawn but not yet on the image (see DrawText).
   struct PendingGlyphs {
     const GlyphTable* table = nullptr;
