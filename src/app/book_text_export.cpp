@@ -1,6 +1,7 @@
 #include "app/book_text_export.h"
 
 #include "book/make_request_check.h"
+#include "book/plain_text_fallback.h"
 #include "support/text_helpers.h"
 #include "support/translation.h"
 #include "support/windows1252.h"
@@ -12,7 +13,7 @@ constexpr unsigned char kItalicOn = 130;
 constexpr unsigned char kItalicOff = 131;
 
 // The style and layout codes; 133 (the ellipsis) is a character and stays.
-bool IsLayoutCode(unsigned char code) { return code >= 128 && code <= 136 && code != 133; }
+bool IsLayoutCode(unsigned char code) { return IsFormattingCode(code) && code != 133; }
 
 // Lines lose the blanks the paragraph mark and the reformatting put around them.
 std::string TrimLines(std::string_view text) {

@@ -57,10 +57,7 @@ void PrinterSurface::PaintPicture(const Picture& picture, double left, double to
                                   double height) {
   if (picture.empty() || width <= 0 || height <= 0) return;
   Require(painter_.isActive(), ErrorNumber::kPrinterError);
-  painter_.save();
-  painter_.setRenderHint(QPainter::SmoothPixmapTransform);
-  painter_.drawImage(QRectF(left, top, width, height), ImageOfPicture(picture));
-  painter_.restore();
+  DrawPictureScaled(painter_, picture, QRectF(left, top, width, height));
 }
 
 }  // namespace vireo

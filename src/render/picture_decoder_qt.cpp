@@ -53,6 +53,13 @@ Picture QtPictureDecoder::Decode(std::string_view bytes, std::string& why) const
   return picture;
 }
 
+void DrawPictureScaled(QPainter& painter, const Picture& picture, const QRectF& rectangle) {
+  painter.save();
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(rectangle, ImageOfPicture(picture));
+  painter.restore();
+}
+
 QImage ImageOfPicture(const Picture& picture) {
   if (picture.empty()) return {};
   return QImage(reinterpret_cast<const uchar*>(picture.pixels.data()), picture.width,

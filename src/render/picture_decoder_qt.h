@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QImage>
+#include <QPainter>
+#include <QRectF>
 
 #include "book/picture.h"
 
@@ -16,5 +18,8 @@ class QtPictureDecoder : public PictureDecoder {
 
 // A picture's pixels as a Qt image sharing its memory (valid while picture lives).
 QImage ImageOfPicture(const Picture& picture);
+
+// Draws the picture smoothly scaled into the rectangle (the painter's units).
+void DrawPictureScaled(QPainter& painter, const Picture& picture, const QRectF& rectangle);
 
 }  // namespace vireo

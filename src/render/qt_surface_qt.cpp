@@ -215,13 +215,9 @@ void QtSurface::PaintPicture(const Picture& picture, double left, double top, do
                              double height) {
   if (picture.empty() || width <= 0 || height <= 0) return;
   DrawPendingGlyphs();
-  QPainter& painter = Painter();
-  painter.save();
-  painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  painter.drawImage(QRectF(left / kTwipsPerPixel, top / kTwipsPerPixel, width / kTwipsPerPixel,
-                           height / kTwipsPerPixel),
-                    ImageOfPicture(picture));
-  painter.restore();
+  DrawPictureScaled(Painter(), picture,
+                    QRectF(left / kTwipsPerPixel, top / kTwipsPerPixel, width / kTwipsPerPixel,
+                           height / kTwipsPerPixel));
 }
 
 void QtSurface::Clear() {
