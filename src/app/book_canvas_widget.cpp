@@ -1,8 +1,8 @@
 #include "app/book_canvas_widget.h"
 
-#include <QFileInfo>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QtMath>
 #include <algorithm>
 
 #include "app/control_bar_widget.h"
@@ -16,9 +16,9 @@ double Pixels(double twips) { return twips / BookCanvasWidget::kTwipsPerPixel; }
 QImage BlankBuffer(double width_twips, double height_twips, qreal ratio) {
   const int width = std::max(1, static_cast<int>(Pixels(width_twips) * ratio));
   const int height = std::max(1, static_cast<int>(Pixels(height_twips) * ratio));
+  // Not filled: its surface is cleared before it is drawn on or shown.
   QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
   image.setDevicePixelRatio(ratio);
-  image.fill(Qt::white);
   return image;
 }
 
@@ -40,6 +40,7 @@ BookCanvasWidget::BookCanvasWidget(QWidget* parent)
   for (int box = 0; box < 8; ++box) {
     images_[box] = BlankBuffer(4500, 6000, 1);
     surfaces_[box] = std::make_unique<QtSurface>(&images_[box]);
+    surfaces_[box]->Clear();
   }
   // Higher boxes lie under lower ones: Page(0) over Page(2), Page(1) over Page(3).
   stacking_[0] = {6, 4, 2, 0};
@@ -60,6 +61,7 @@ void BookCanvasWidget::ResizeBuffers(double width_twips, double height_twips) {
   for (int box = 0; box < 8; ++box) {
     surfaces_[box]->DropDrawing();
     images_[box] = BlankBuffer(width_twips, height_twips, ratio);
+    ApplyBoxTexture(box);
     surfaces_[box]->Clear();
   }
 }
@@ -81,29 +83,25 @@ void BookCanvasWidget::SetBoxBackColour(int box, uint32_t bgr) {
 }
 
 void BookCanvasWidget::SetBoxTexture(int box, std::optional<int> slot) {
-  const QImage* texture = slot && *slot >= 0 && *slot < 4 ? Texture(*slot) : nullptr;
+  texture_slots_[box] = slot && *slot >= 0 && *slot < PaperTextures::kSlots ? slot : std::nullopt;
+  ApplyBoxTexture(box);
+  surfaces_[box]->Clear();
+}
+
+void BookCanvasWidget::ApplyBoxTexture(int box) {
+  const std::optional<int> slot = texture_slots_[box];
+  const QSizeF logical = images_[box].deviceIndependentSize();
+  const QSize page(qCeil(logical.width()), qCeil(logical.height()));
+  const QImage* texture = slot ? &papers_.Covering(*slot, page) : nullptr;
   if (texture != nullptr && !texture->isNull()) {
     surfaces_[box]->SetTexture(*texture);
   } else {
     surfaces_[box]->ClearTexture();
   }
-  surfaces_[box]->Clear();
 }
 
-// Textures are decoded when first shown: a reader uses one paper of the four.
 bool BookCanvasWidget::LoadTexture(int slot, const std::string& path) {
-  if (slot < 0 || slot >= 4) return false;
-  texture_paths_[slot] = QString::fromLocal8Bit(path.c_str());
-  textures_[slot] = QImage();
-  return QFileInfo(texture_paths_[slot]).isReadable();
-}
-
-const QImage* BookCanvasWidget::Texture(int slot) {
-  if (textures_[slot].isNull() && !texture_paths_[slot].isEmpty()) {
-    textures_[slot].load(texture_paths_[slot]);
-    texture_paths_[slot].clear();  // a picture that does not load is tried once
-  }
-  return &textures_[slot];
+  return papers_.SetFile(slot, QString::fromLocal8Bit(path.c_str()));
 }
 
 void BookCanvasWidget::CopyBox(int source_box, int destination_box) {

@@ -12,6 +12,7 @@
 
 #include "render/book_view.h"
 #include "render/page_buffers.h"
+#include "render/paper_textures_qt.h"
 #include "render/picture_decoder_qt.h"
 #include "render/qt_surface_qt.h"
 
@@ -23,8 +24,7 @@ class LampWidget;
 // them, the page boxes Page(0)..Page(7). Every box is an image buffer of the
 // page size with a drawing surface; a box is a window onto its buffer that
 // can be narrowed, moved, hidden and stacked for the page-turn sweep.
-// Geometry is kept in twips (15 to a logical pixel). The paper textures are
-// decoded when first shown. It also holds the language list beside the
+// Geometry is kept in twips (15 to a logical pixel). It also holds the language list beside the
 // title page and drives the status lamp on the control bar.
 class BookCanvasWidget : public QWidget, public PageBuffers {
   Q_OBJECT
@@ -107,15 +107,16 @@ class BookCanvasWidget : public QWidget, public PageBuffers {
   void PaintFrame(QPainter& painter, int frame) const;
   void PaintCover(QPainter& painter) const;
   void ResizeBuffers(double width_twips, double height_twips);
-  const QImage* Texture(int slot);
+  // Gives box the paper of its slot as far as its buffer needs, or none.
+  void ApplyBoxTexture(int box);
 
   BookViewLayout layout_;
   std::array<QImage, 8> images_;
   std::array<std::unique_ptr<QtSurface>, 8> surfaces_;
   std::array<BoxPlace, 8> boxes_;
   std::array<std::vector<int>, 2> stacking_;  // bottom to top, per frame
-  std::array<QImage, 4> textures_;
-  std::array<QString, 4> texture_paths_;
+  std::array<std::optional<int>, 8> texture_slots_;
+  PaperTextures papers_;
   LampWidget* lamp_ = nullptr;
   QtPictureDecoder decoder_;
   QImage cover_;  // shares the shown cover's pixels; null when none is shown
