@@ -12,29 +12,55 @@ namespace {
 constexpr std::string_view kModule = "frmMain";
 constexpr std::string_view kProcedure = "sub loadfile";
 
+std::string ProgressText(std::string_view caption, int value, int maximum) {
+  const int percent = maximum > 0 ? value * 100 / maximum : 0;
+  return std::string(caption) + " " + std::to_string(percent) + "%";
+}
+
 }  // namespace
 
 BookLoader::BookLoader(ReaderContext& context, BookSpread& spread, BookSession& session)
     : context_(context), spread_(spread), session_(session) {}
 
 void BookLoader::ShowProgress(std::string_view caption, int value, int maximum) {
-  const int percent = maximum > 0 ? value * 100 / maximum : 0;
-  context_.view.ShowProgress(std::string(caption) + " " + std::to_string(percent) + "%");
+  context_.view.ShowProgress(ProgressText(caption, value, maximum));
   context_.pump.Yield();
 }
 
-void BookLoader::OpenBook(const std::string& path) {
-  const FormattingOptions options{context_.reformat, context_.prefs.underscores,
-                                  context_.prefs.extra_paragraph_line};
+FormattingOptions BookLoader::Formatting() const {
+  return {context_.reformat, context_.prefs.underscores, context_.prefs.extra_paragraph_line};
+}
+
+PictureLoading BookLoader::Pictures(const std::string& path) {
   context_.picture_files.Forget();
   // A book's pictures sit beside it (an appended book's in the program's folder).
-  const PictureLoading pictures{&context_.images, &context_.picture_files, BookFolderOf(path)};
-  BookReadResult book = ReadBookFile(
+  return {&context_.images, &context_.picture_files, BookFolderOf(path)};
+}
+
+void BookLoader::PrefetchBook(const std::string& path) {
+  prefetch_.Start(path, Formatting(), Pictures(path));
+}
+
+// The prefetched book when there is one for path, else the book read here.
+// The wait for a prefetch shows its progress but lets no other event in,
+// since the reading thread still uses the picture store.
+BookReadResult BookLoader::ReadBook(const std::string& path) {
+  const FormattingOptions options = Formatting();
+  std::optional<BookReadResult> prefetched =
+      prefetch_.Take(path, options, [this](std::string_view caption, int value, int maximum) {
+        context_.view.ShowProgress(ProgressText(caption, value, maximum));
+      });
+  if (prefetched) return std::move(*prefetched);
+  return ReadBookFile(
       path, options,
       [this](std::string_view caption, int value, int maximum) {
         ShowProgress(caption, value, maximum);
       },
-      pictures);
+      Pictures(path));
+}
+
+void BookLoader::OpenBook(const std::string& path) {
+  BookReadResult book = ReadBook(path);
   context_.view.ShowProgress("");
   Trap(kProcedure, kModule, [&] {
     if (!book.has_book) {

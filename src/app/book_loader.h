@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "app/book_prefetch.h"
 #include "app/book_session.h"
 #include "app/book_spread.h"
 #include "app/reader_context.h"
@@ -24,8 +25,15 @@ class BookLoader {
   // holds. Without a book the person is told there is no ebook in the file
   // and the open book stays as it was.
   void OpenBook(const std::string& path);
+  // Starts reading and unpacking the book at path on a second thread, for
+  // the OpenBook of the same file and formatting that follows. Until then
+  // nothing may use the picture store or the book's picture files.
+  void PrefetchBook(const std::string& path);
 
  private:
+  FormattingOptions Formatting() const;
+  PictureLoading Pictures(const std::string& path);
+  BookReadResult ReadBook(const std::string& path);
   void ShowProgress(std::string_view caption, int value, int maximum);
   // The open book's cover into context.cover and onto the plotter.
   void LoadCover(const std::string& packed_cover, const std::string& path);
@@ -33,6 +41,7 @@ class BookLoader {
   ReaderContext& context_;
   BookSpread& spread_;
   BookSession& session_;
+  BookPrefetch prefetch_;
 };
 
 }  // namespace vireo

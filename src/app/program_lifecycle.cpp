@@ -130,6 +130,8 @@ void ProgramLifecycle::RunStartupSteps() {
     context_.reformat = sget("Reformat", true).ToBoolean();
     view.SetMenuTick("mnuFormatting", context_.reformat);
   });
+  // The book is read while the blank book is drawn and the window shown.
+  StartupStep([&] { loader_.PrefetchBook(context_.location.executable_path); });
   StartupStep([&] {
     LogAction("Drawing blank book");
     spread_.LayOutBook();

@@ -8,6 +8,8 @@ struct FormattingOptions {
   bool reformat = true;      // join the lines of a paragraph
   bool underscores = false;  // underscores become italic on / off markers
   bool extra_line = false;   // an empty line between paragraphs
+
+  bool operator==(const FormattingOptions&) const = default;
 };
 
 }  // namespace vireo

@@ -35,8 +35,13 @@ void LogError(const RuntimeError& error, std::string_view procedure, std::string
 
 void RecordError(const RuntimeError& error, std::string_view procedure, std::string_view module) {
   LogError(error, procedure, module);
-  if (ErrorObserver()) {
-    ErrorObserver()(ActionEntry(error.description(), LoggedName(error, procedure), module));
+  std::string entry = ActionEntry(error.description(), LoggedName(error, procedure), module);
+  if (HeldBackLog* held = HeldBackLogHere()) {
+    held->Add([entry = std::move(entry)] {
+      if (ErrorObserver()) ErrorObserver()(entry);
+    });
+  } else if (ErrorObserver()) {
+    ErrorObserver()(entry);
   }
 }
 

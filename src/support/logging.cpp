@@ -33,6 +33,8 @@ struct LogState {
   std::function<std::time_t()> clock = [] { return std::time(nullptr); };
 };
 
+thread_local HeldBackLog* held_back_here = nullptr;
+
 LogState& State() {
   static LogState state;
   return state;
@@ -154,7 +156,21 @@ void ClearActions() {
   State().repeats.clear();
 }
 
+void HeldBackLog::WriteOut() {
+  std::vector<std::function<void()>> writes;
+  writes.swap(writes_);
+  for (const auto& write : writes) write();
+}
+
+HoldBackLogging::HoldBackLogging(HeldBackLog& held) { held_back_here = &held; }
+HoldBackLogging::~HoldBackLogging() { held_back_here = nullptr; }
+HeldBackLog* HeldBackLogHere() { return held_back_here; }
+
 void LogAction(std::string_view text, LogFile file) {
+  if (held_back_here != nullptr) {
+    held_back_here->Add([text = std::string(text), file] { LogAction(text, file); });
+    return;
+  }
   if (State().disabled || State().folder.empty()) return;
   try {
     if (file == LogFile::kNew) {
@@ -170,6 +186,11 @@ void LogAction(std::string_view text, LogFile file) {
 }
 
 void LogProc(std::string_view text, std::string_view procedure, std::string_view module) {
+  if (held_back_here != nullptr) {
+    held_back_here->Add([text = std::string(text), procedure = std::string(procedure),
+                         module = std::string(module)] { LogProc(text, procedure, module); });
+    return;
+  }
   if (State().disabled) return;
   try {
     std::string entry = ActionEntry(std::string(text), procedure, module);
@@ -185,6 +206,11 @@ void LogProc(std::string_view text, std::string_view procedure, std::string_view
 }
 
 void LogDebug(std::string_view text, std::string_view procedure, std::string_view module) {
+  if (held_back_here != nullptr) {
+    held_back_here->Add([text = std::string(text), procedure = std::string(procedure),
+                         module = std::string(module)] { LogDebug(text, procedure, module); });
+    return;
+  }
   if (State().disabled) return;
   try {
     ActionRing& ring = State().ring;
@@ -195,6 +221,10 @@ void LogDebug(std::string_view text, std::string_view procedure, std::string_vie
 }
 
 void ListActions() {
+  if (held_back_here != nullptr) {
+    held_back_here->Add([] { ListActions(); });
+    return;
+  }
   if (State().disabled) return;
   try {
     const ActionRing& ring = State().ring;

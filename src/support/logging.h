@@ -6,6 +6,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vireo {
 
@@ -66,6 +67,31 @@ struct ActionRing {
 const ActionRing& Actions();
 // Empties the ring and forgets the entries counted for repeats.
 void ClearActions();
+
+// Work done on another thread can hold back its log lines, listings and
+// error reports, so that the thread taking its result writes them, in
+// order, where the work would have written them had it run there.
+class HeldBackLog {
+ public:
+  void Add(std::function<void()> write) { writes_.push_back(std::move(write)); }
+  // Writes what was held back, on the calling thread, and forgets it.
+  void WriteOut();
+
+ private:
+  std::vector<std::function<void()>> writes_;
+};
+
+// While one lives, the logging of the thread that made it goes to held.
+class HoldBackLogging {
+ public:
+  explicit HoldBackLogging(HeldBackLog& held);
+  ~HoldBackLogging();
+  HoldBackLogging(const HoldBackLogging&) = delete;
+  HoldBackLogging& operator=(const HoldBackLogging&) = delete;
+};
+
+// The log this thread holds its logging back in, or nullptr.
+HeldBackLog* HeldBackLogHere();
 
 // The clock used for time stamps (tests fix it).
 void SetLogClock(std::function<std::time_t()> clock);
