@@ -5,7 +5,6 @@
 #include <filesystem>
 
 #include "book/picture_files.h"
-#include "picture_test_files.h"
 #include "test_support.h"
 
 namespace vireo::test {
@@ -16,21 +15,6 @@ PackedPictures TwoPictures() {
   packed.Add("pics/a.png", "AAAA");
   packed.cover = packed.Add("cover:c.jpg", std::string("C\0C", 3));
   return packed;
-}
-
-TEST(PictureSection, RoundTripsAfterTheBookAndLeavesTheBookAsItWas) {
-  std::string file = "book bytes";
-  AppendPictureSection(file, TwoPictures());
-  const PackedPictures read = TakePictureSection(file);
-  EXPECT_EQ(file, "book bytes");
-  ASSERT_EQ(read.pictures.size(), 2u);
-  EXPECT_EQ(read.Find("PICS\\A.PNG")->bytes, "AAAA");
-  EXPECT_EQ(read.Find("pics/A.png")->bytes, "AAAA");
-  EXPECT_EQ(read.Cover()->bytes, std::string("C\0C", 3));
-
-  std::string plain = "book bytes";
-  EXPECT_TRUE(TakePictureSection(plain).pictures.empty());
-  EXPECT_EQ(plain, "book bytes");
 }
 
 TEST(PictureSection, DamagedSectionsNeverReadPastTheFile) {
@@ -56,16 +40,6 @@ TEST(PictureSection, DamagedSectionsNeverReadPastTheFile) {
     EXPECT_EQ(read.pictures.size(), c.pictures) << c.what;
     EXPECT_LE(file.size(), whole.size() - 24) << c.what;
   }
-}
-
-TEST(PackedPictureFiles, PackedFirstUnderAnyFolderThenBehind) {
-  const PackedPictures packed = TwoPictures();
-  FakePictureFiles disk(std::map<std::string, std::string>{{"/book/D.PNG", "DDD"}});
-  PackedPictureFiles files(packed, disk);
-  EXPECT_EQ(files.Read("/prog/PICS\\A.PNG"), "AAAA");
-  EXPECT_EQ(files.Read("PICS\\A.PNG"), "AAAA");
-  EXPECT_TRUE(files.IsFile("/book/D.PNG"));
-  EXPECT_FALSE(files.IsFile("/book/E.PNG"));
 }
 
 TEST(DiskPictureFiles, FindsNamesWhateverTheirCaseAndOnlyRegularFiles) {

@@ -48,10 +48,6 @@ clsFontMetrics MetricsOf(Width width) {
   return metrics;
 }
 
-inline clsFontMetrics UniformMetrics(double width) {
-  return MetricsOf([width](int, bool) { return width; });
-}
-
 // One line per page, "start bold italic underline", as vireo-tool prints it.
 inline std::vector<std::string> DumpPages(const PageIndex& index) {
   std::vector<std::string> pages;

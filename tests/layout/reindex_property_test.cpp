@@ -1,5 +1,5 @@
 // The linear paginator against the literal one on random texts, tables and
-// geometries; and, on ordinary prose, the shape every page index must have.
+// geometries: page starts, carried styles, the text, the events and the yields.
 
 #include <gtest/gtest.h>
 
@@ -174,53 +174,6 @@ TEST(ReindexProperties, LinearPaginatorMatchesTheLiteralRules) {
     const Case c = generator.AnyCase();
     ExpectSame(RunFast(c), RunLiteral(c), i);
     if (HasFatalFailure()) return;
-  }
-}
-
-// Words that all fit a line, without hyphens, images, code 134 or a leading blank.
-TEST(ReindexProperties, OrdinaryProseGivesIncreasingStartsOnDelimitersCoveringTheText) {
-  Generator generator(77);
-  for (int i = 0; i < 400; ++i) {
-    SCOPED_TRACE("case " + std::to_string(i));
-    Case c;
-    const int words = generator.Int(2, 300);
-    for (int w = 0; w < words; ++w) {
-      if (w > 0) c.text += generator.Chance(8) ? " \n " : " ";
-      const int style = generator.Int(128, 136);
-      if (w > 0 && style != 134 && generator.Chance(10)) c.text += static_cast<char>(style);
-      c.text += generator.Letters(generator.Int(1, 10));
-    }
-    c.metrics = generator.Metrics(false);
-    double widest = 0;
-    for (int style = 0; style < 4; ++style) {
-      for (double width : c.metrics.Table(style & 1, style & 2)) widest = std::max(widest, width);
-    }
-    c.line_width = widest * (12 + generator.Int(0, 40));
-    c.lines_per_page = static_cast<int16_t>(generator.Int(1, 12));
-    c.first_page = generator.Chance(30) ? 2 : 1;
-    c.reading_position = generator.Int(1, static_cast<int>(c.text.size()));
-
-    const Outcome fast = RunFast(c);
-    ExpectSame(fast, RunLiteral(c), i);
-    const PageIndex& index = fast.index;
-    const auto length = static_cast<int32_t>(c.text.size());
-    ASSERT_EQ(fast.text, c.text);
-    ASSERT_EQ(index.PageStart(1), c.first_page == 2 ? 0 : 1);
-    ASSERT_EQ(index.PageStart(c.first_page), 1);
-    for (int32_t p = c.first_page + 1; p <= index.count; ++p) {
-      const int32_t start = index.PageStart(p);
-      ASSERT_GT(start, index.PageStart(p - 1)) << "page " << p;
-      ASSERT_LE(start, length) << "page " << p;
-      if (p < index.count || start < length) {
-        const char at = c.text[static_cast<size_t>(start - 1)];
-        ASSERT_TRUE(at == ' ' || at == '\n') << "page " << p << " starts on a word";
-      }
-    }
-    // PassedPage exactly once, before FinishedReindex which comes last.
-    ASSERT_EQ(std::count_if(fast.events.begin(), fast.events.end(),
-                            [](const std::string& e) { return e.rfind("passed", 0) == 0; }),
-              1);
-    ASSERT_EQ(fast.events.back(), "finished at " + std::to_string(index.count));
   }
 }
 

@@ -138,11 +138,5 @@ TEST_F(SettingsFileTest, ASaveInterruptedBeforeItsRenameLeavesTheOldFile) {
             std::string::npos);
 }
 
-TEST(SettingValue, ConvertsLikeThePreferenceReadersExpect) {
-  EXPECT_EQ(SettingValue(" 2.5 ").ToNumber(), 2.5);
-  EXPECT_THROW(SettingValue("maybe").ToBoolean(), RuntimeError);
-  EXPECT_EQ(SettingValue(true).ToNumber(), -1);
-}
-
 }  // namespace
 }  // namespace vireo

@@ -1,5 +1,6 @@
-// Long words composed by clsPrintPage and by the literal rules give the same lines and
-// pictures, also for exact fits over no-width characters and tags made by deleting tags.
+// Pages composed by clsPrintPage and by the literal rules give the same lines and pictures:
+// wrapped words, hyphens, paragraph and page ends, and long words, also for exact fits over
+// no-width characters and tags made by deleting tags.
 
 #include <gtest/gtest.h>
 
@@ -62,6 +63,11 @@ TEST(LongWordPieces, AreTheLiteralRulesPieces) {
     std::string text;
     double width;
   } cases[] = {
+      // Wrapped words with the paragraph indent and ends; hyphens, even a leading one; page
+      // breaks and page-number tags deleted.
+      {"one two. \n Three four five ", 100},
+      {"aaaa -bbbb well-known ", 60},
+      {"Chapter[npn=n] one \x86 next[npn=r] [npn=d]end ", 1000},
       // Exact fits over a run of no-width characters, wherever the shrink by 25 lands.
       {std::string(20, 'a') + zeros + std::string(40, 'b') + " tail", 200},
       {std::string(19, 'a') + zeros + std::string(41, 'b') + " tail", 200},
@@ -79,7 +85,7 @@ TEST(LongWordPieces, AreTheLiteralRulesPieces) {
   for (const auto& c : cases) ExpectAsTheLiteralRules(c.text, c.width);
 
   std::mt19937 random(12);
-  const std::string alphabet = "abzzzz-=[IMG=1]\x80\x81\x82\x83\x86\n";
+  const std::string alphabet = "abzzzz  -=[IMG=1]\x80\x81\x82\x83\x86\n";
   for (int page = 0; page < 200; ++page) {
     std::string text;
     const size_t length = 20 + random() % 400;

@@ -58,20 +58,5 @@ TEST_F(LanguageFilesTest, AFileWithFaultyLinesLoadsTheRestAndLogsTheFaults) {
   EXPECT_EQ(GetTranslation("Enter the font size"), "Enter the font size");
 }
 
-TEST_F(LanguageFilesTest, LanguagesAreFoundByTheirFilesAndOrderedByName) {
-  const std::string languages = LanguagesFolder(folder.str());
-  std::filesystem::create_directory(languages);
-  test::WriteFile(languages + "/es.lng", "Language: Espa\xC3\xB1ol\n");
-  test::WriteFile(languages + "/de.lng", "# German\nLanguage: Deutsch\nHints || Hinweise\n");
-  test::WriteFile(languages + "/xx.lng", "Hints || ?\n");
-  test::WriteFile(languages + "/notes.txt", "Language: Notes\n");
-  std::vector<std::string> found;
-  for (const LanguageFile& file : FindLanguages(languages)) {
-    found.push_back(file.code + "=" + file.name);
-  }
-  EXPECT_EQ(found, (std::vector<std::string>{"de=Deutsch", "es=Espa\xF1ol", "xx=xx"}));
-  EXPECT_TRUE(FindLanguages(folder.File("missing")).empty());
-}
-
 }  // namespace
 }  // namespace vireo
