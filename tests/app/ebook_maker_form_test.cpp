@@ -10,6 +10,20 @@
 namespace vireo {
 namespace {
 
+using ::testing::HasSubstr;
+
+// "Title: The Small Book", an author line and a text with a Greek letter, in UTF-16.
+std::string SmallBookUtf16() {
+  const std::u16string text =
+      u"Title: The Small Book\r\nby Ann Writer\r\n\r\nOmega \u03A9 ends it.";
+  std::string bytes = "\xFF\xFE";
+  for (const char16_t unit : text) {
+    bytes += static_cast<char>(unit & 0xFF);
+    bytes += static_cast<char>(unit >> 8);
+  }
+  return bytes;
+}
+
 TEST(SuggestDetails, FromLabelledOrByLinesElseFromTheFileName) {
   struct Case {
     std::string path, head, title, author;
@@ -27,7 +41,7 @@ TEST(SuggestDetails, FromLabelledOrByLinesElseFromTheFileName) {
   }
 }
 
-TEST(EbookMakerForm, TheOutputFollowsTheTextAndTheFormUntilItIsTyped) {
+TEST(EbookMakerForm, OutputAndPicturesFollowTheTextAndTheFormAndAreCheckedOnlyForAnEbook) {
   test::TempFolder folder;
   test::FakeUser user;
   EbookMakerForm form(
@@ -37,25 +51,17 @@ TEST(EbookMakerForm, TheOutputFollowsTheTextAndTheFormUntilItIsTyped) {
   EXPECT_EQ(form.Problem(), "Choose the text file first.");
 
   test::WriteFile(folder.File("tale.txt"), "caf\xE9");
+  test::WriteFile(folder.File("cover.png"), "not really a picture");
   form.ChooseText(folder.File("tale.txt"));
   EXPECT_EQ(form.encoding_name(), "Windows-1252");
+  EXPECT_EQ(form.pictures_folder, folder.str());
   EXPECT_EQ(form.out_path, folder.File("tale"));
   form.SetForm(MakeForm::kBrn);
   EXPECT_EQ(form.out_path, folder.File("tale.brn"));
   form.out_path = folder.File("mine.brn");
   form.SetForm(MakeForm::kEbook);
   EXPECT_EQ(form.out_path, folder.File("mine.brn")) << "a typed output stays";
-}
 
-TEST(EbookMakerForm, PicturesComeFromTheTextsFolderAndAreCheckedOnlyForAnEbook) {
-  test::TempFolder folder;
-  test::FakeUser user;
-  EbookMakerForm form(
-      user, [](const std::string&) {}, "/opt/Vireo", "");
-  test::WriteFile(folder.File("tale.txt"), "A tale.");
-  test::WriteFile(folder.File("cover.png"), "not really a picture");
-  form.ChooseText(folder.File("tale.txt"));
-  EXPECT_EQ(form.pictures_folder, folder.str());
   struct Case {
     std::string pictures, cover;
     MakeForm make;
@@ -98,12 +104,43 @@ TEST(EbookMakerForm, TheChooseButtonsAskTheCommonDialogsAndACancelKeepsTheField)
   EXPECT_EQ(form.pictures_folder, "/pictures");
   EXPECT_EQ(form.cover_path, "/pictures/front.png");
   EXPECT_EQ(form.out_path, "/books/Tale");
-  EXPECT_THAT(dialogs.asked,
-              ::testing::ElementsAre("Choose the text file: ",
-                                     "Choose the pictures folder: " + folder.str(),
-                                     "Choose the pictures folder: " + folder.str(),
-                                     "Choose the cover picture: /pictures",
-                                     "Write the book to: " + folder.File("tale")));
+  EXPECT_THAT(dialogs.asked, ::testing::ElementsAre("Choose the text file: ",
+                                                    "Choose the pictures folder: " + folder.str(),
+                                                    "Choose the pictures folder: " + folder.str(),
+                                                    "Choose the cover picture: /pictures",
+                                                    "Write the book to: " + folder.File("tale")));
+}
+
+// The dialog itself is run by the real program (e2e book pictures test).
+TEST(EbookMakerForm, AMadeBookIsReportedAndOfferedButNeverWrittenOverTheProgramOrTheOpenBook) {
+  test::TempFolder folder;
+  test::FakeUser user;
+  std::vector<std::string> opened;
+  EbookMakerForm form(
+      user, [&](const std::string& path) { opened.push_back(path); }, folder.File("Vireo"),
+      folder.File("Book"));
+  test::WriteFile(folder.File("small.txt"), SmallBookUtf16());
+  form.ChooseText(folder.File("small.txt"));
+  EXPECT_EQ(form.encoding_name(), "UTF-16 (little-endian)");
+  EXPECT_EQ(form.title, "The Small Book");
+  form.SetForm(MakeForm::kBrn);
+  const auto quietly = [](std::string_view, int, int) {};
+  for (const char* kept : {"Vireo", "Book"}) {
+    test::WriteFile(folder.File(kept), kept);
+    form.out_path = folder.File(kept);
+    EXPECT_FALSE(form.Make(quietly));
+    EXPECT_THAT(user.messages.back(), HasSubstr("it is in use by the reader")) << kept;
+    EXPECT_EQ(test::ReadFile(folder.File(kept)), kept);
+  }
+
+  form.out_path = folder.File("small.brn");
+  ASSERT_TRUE(form.Make(quietly));
+  EXPECT_THAT(
+      form.report(),
+      testing::Contains(HasSubstr("1 \xC3\x97 \xCE\xA9 had no place in the book and show as ?")));
+  user.yes = true;
+  form.OfferToOpen();
+  EXPECT_EQ(opened, std::vector<std::string>{folder.File("small.brn")});
 }
 
 }  // namespace

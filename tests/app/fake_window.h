@@ -18,8 +18,9 @@
 
 namespace vireo::test {
 
-// The headless window, keeping every progress text (before and after the splash), counting
-// the menus it was asked to show, with services that keep every request (FakeServices).
+// The headless window, keeping every progress text (before and after the splash) and
+// milestone, counting the menus it was asked to show, with services that keep every request
+// (FakeServices).
 class FakeWindowView : public HeadlessWindowView {
  public:
   void ShowProgress(std::string_view text) override {
@@ -28,16 +29,9 @@ class FakeWindowView : public HeadlessWindowView {
   void ShowContextMenu() override { ++context_menus; }
   PeripheralServices& Services() override { return services; }
   void ShowOptionsMenuAtPage() override { ++menus_at_page; }
-  void ShowLanguages(const std::vector<std::string>& names, int chosen,
-                     std::string_view code) override {
-    languages = names;
-    chosen_language = chosen;
-    language_code = code;
-  }
+  void Milestone(std::string_view what) override { milestones.emplace_back(what); }
 
-  std::vector<std::string> languages;  // offered, English first
-  int chosen_language = -1;
-  std::string language_code;
+  std::vector<std::string> milestones;  // "first spread", "pagination finished", ...
   std::vector<std::string> splash_status;
   std::vector<std::string> progress_shown;  // after the splash
   int context_menus = 0;

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QMessageBox>
-#include <QtGlobal>
 #include <filesystem>
 
 #include "app/error_report_dialog.h"
@@ -60,8 +59,6 @@ TEST(HelpDialogs, AboutDescribesTheBookAndTheErrorReportComesUpForAnErrorAndFrom
   auto* about = reader.window().findChild<frmAbout*>("frmAbout");
   ASSERT_NE(about, nullptr);
   EXPECT_TRUE(about->isVisible());
-  EXPECT_TRUE(about->lblProgram->text().startsWith("Vireo "));
-  EXPECT_EQ(about->lblQt->text(), QString("Qt ") + qVersion());
   EXPECT_TRUE(about->lblBook->text().startsWith("Title, by Author: "));
   about->cmdOK->click();
 

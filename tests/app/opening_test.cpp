@@ -1,11 +1,12 @@
-// Opening books from the command line and Open..., the keys beyond the key map, and the
-// file-type registration: the window's decisions through the fakes.
+// Opening books from the command line, Open... and a drop, and the file-type
+// registration: the window's decisions through the fakes.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "app/fake_window.h"
 #include "app/file_types.h"
+#include "book/load_file.h"
 
 namespace vireo {
 namespace {
@@ -15,51 +16,8 @@ using ::testing::HasSubstr;
 
 using test::kInstant;
 
-void Key(FakeReader& reader, int virtual_key) {
-  reader.logic.commands().Form_KeyUp(virtual_key, ShiftKey::kUp);
-}
-
-TEST(ReaderKeys, PageKeysHomeEndAndTheWheelTurnInBothPageModes) {
-  for (const bool single : {false, true}) {
-    FakeReader reader(test::NumberedProse(300),
-                      std::string(kInstant) + (single ? "SINGLEPAGEMODE,True\r\n" : ""));
-    reader.Start();
-    const int step = single ? 1 : 2;
-    const int first = reader.logic.current_page();
-    Key(reader, vk::kPageDown);
-    EXPECT_EQ(reader.logic.current_page(), first + step) << single;
-    Key(reader, vk::kPageUp);
-    EXPECT_EQ(reader.logic.current_page(), first) << single;
-    reader.logic.commands().Page_Wheel(-2);  // two notches towards the reader
-    EXPECT_EQ(reader.logic.current_page(), first + 2 * step) << single;
-    reader.logic.commands().Page_Wheel(1);
-    EXPECT_EQ(reader.logic.current_page(), first + step) << single;
-    Key(reader, vk::kEnd);
-    EXPECT_GE(reader.logic.current_page(), reader.logic.pages().count) << single;
-    Key(reader, vk::kHome);
-    EXPECT_EQ(reader.logic.current_page(), first) << single;
-  }
-}
-
-TEST(ReaderKeys, AWheelNotchDuringATurnIsDroppedAndF10OpensTheMenuAtThePage) {
-  FakeReader reader(test::NumberedProse(300));  // turns with the sweep
-  reader.Start();
-  const int first = reader.logic.current_page();
-  int notches_during_turn = 0;
-  reader.pump.on_yield = [&] {
-    if (notches_during_turn++ < 3) reader.logic.commands().Page_Wheel(-1);
-  };
-  reader.logic.commands().Page_Wheel(-1);
-  reader.pump.on_yield = nullptr;
-  EXPECT_GT(notches_during_turn, 0) << "the sweep lets events run";
-  EXPECT_EQ(reader.logic.current_page(), first + 2) << "one turn for the one notch";
-
-  Key(reader, vk::kF10);
-  Key(reader, vk::kMenu);
-  EXPECT_EQ(reader.view.menus_at_page, 2);
-  EXPECT_EQ(reader.view.context_menus, 0);
-}
-
+// Each way of opening keeps to its own file types; a file of the right type
+// that holds no book says so, and the book on show stays.
 TEST(OpeningFiles, ANamedFileOpensAsADroppedOneAndAnEbookNeedsNoBookType) {
   FakeReader reader("The reader's own book.", kInstant);
   reader.Start();
@@ -70,23 +28,44 @@ TEST(OpeningFiles, ANamedFileOpensAsADroppedOneAndAnEbookNeedsNoBookType) {
   test::WriteFile(reader.folder.File("Novel"), EbookFile("\x7f"
                                                          "ELF program",
                                                          packed("Novel.")));
-  test::WriteFile(reader.folder.File("broken.brn"), "no packed book at all");
-  test::WriteFile(reader.folder.File("notes.doc"), "a document");
-
   reader.logic.commands().OpenNamedFile(reader.folder.File("story.brn"));
   EXPECT_EQ(reader.view.caption, "story.brn");
   EXPECT_THAT(reader.buffers.Text(kLeftPageBox), HasSubstr("A packed story."));
   reader.logic.commands().OpenNamedFile(reader.folder.File("Novel"));
   EXPECT_EQ(reader.view.caption, "Novel");
 
-  reader.logic.commands().OpenNamedFile(reader.folder.File("notes.doc"));
-  EXPECT_EQ(reader.user.messages.back(), "Cannot load that type of file");
-  reader.logic.commands().OpenNamedFile(reader.folder.File("broken.brn"));
-  EXPECT_THAT(reader.user.messages.back(), HasSubstr("holds no book that can be read"));
-  EXPECT_EQ(reader.view.caption, "Novel") << "the open book stays";
-  reader.logic.commands().Page_OLEDragDrop(reader.folder.File("Novel"));
-  EXPECT_EQ(reader.user.messages.back(), "Cannot load that type of file")
-      << "a drop keeps to the book types";
+  enum class Way { kNamed, kDropped, kOpened };
+  const struct {
+    Way way;
+    std::string name, content, message;
+  } cases[] = {
+      {Way::kNamed, "notes.doc", "a document", "Cannot load that type of file"},
+      {Way::kNamed, "broken.brn", "no packed book at all", "holds no book that can be read"},
+      {Way::kDropped, "Novel", "", "Cannot load that type of file"},  // a drop keeps to book types
+      {Way::kDropped, "picture.png", "", "Cannot load that type of file"},
+      {Way::kDropped, "BOOK.TXT", "Just some text.", "There is no ebook stored in this file."},
+      {Way::kDropped, "notes.txt.old", "Just some text.", "There is no ebook stored in this file."},
+      {Way::kDropped, "page.htm", "Just some text.", "There is no ebook stored in this file."},
+      {Way::kOpened, "empty", "", "There is no ebook stored in this file."},
+      {Way::kOpened, "plain", "plain text\n", "There is no ebook stored in this file."},
+      {Way::kOpened, "marker", BookMarker() + "no header marker",
+       "There is no ebook stored in this file."},
+  };
+  for (const auto& c : cases) {
+    const std::string path = reader.folder.File(c.name);
+    if (!c.content.empty() || c.way == Way::kOpened) test::WriteFile(path, c.content);
+    if (c.way == Way::kNamed) reader.logic.commands().OpenNamedFile(path);
+    if (c.way == Way::kDropped) reader.logic.commands().Page_OLEDragDrop(path);
+    if (c.way == Way::kOpened) reader.logic.loader().OpenBook(path);
+    EXPECT_THAT(reader.user.messages.back(), HasSubstr(c.message)) << c.name;
+    EXPECT_EQ(reader.view.caption, "Novel") << c.name << ": the open book stays";
+  }
+}
+
+TEST(ProgramFolderString, ADrivesRootBecomesC) {
+  EXPECT_EQ(ProgramLifecycle::ProgramFolderString("D:\\"), "C:");
+  EXPECT_EQ(ProgramLifecycle::ProgramFolderString("/"), "C:");
+  EXPECT_EQ(ProgramLifecycle::ProgramFolderString("/opt/vireo"), "/opt/vireo");
 }
 
 TEST(FileTypeRegistration, NamesTheReaderNeverACopyAndQuotesAnOddPathOnOneLine) {

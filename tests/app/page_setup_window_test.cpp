@@ -2,12 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <QCheckBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QSet>
-#include <QToolButton>
 
 #include "app/page_setup_qt.h"
 #include "app/reader_window_fixture.h"
@@ -25,8 +22,7 @@ int ColourCount(const QImage& picture, QRgb colour) {
 
 class PageSetupTest : public testing::Test {
  protected:
-  explicit PageSetupTest(const std::string& settings = test::kInstant)
-      : reader(test::NumberedProse(160), settings) {}
+  PageSetupTest() : reader(test::NumberedProse(160), test::kInstant) {}
 
   // The dialog as the Settings button fills it, shown.
   frmSettings& Open() {
@@ -59,10 +55,6 @@ class PageSetupTest : public testing::Test {
     Find<QScrollBar>("HSBlue")->setValue(30);
   }
   QRgb PaperOnShow() { return test::BoxPicture(reader, kLeftPageBox).pixel(3, 3); }
-  std::string StoredAfterQuit() {
-    reader.logic().lifecycle().Quit();
-    return test::ReadFile(reader.folder().File("Vireo.ini"));
-  }
 
   test::ReaderWindow reader;
   std::unique_ptr<frmSettings> dialog;
@@ -70,8 +62,22 @@ class PageSetupTest : public testing::Test {
 };
 
 // Where the book reopens after a re-pagination is checked through the fake window.
-TEST_F(PageSetupTest, AColourAndBordersConfirmedAreDrawnRepaginatedAndStored) {
+TEST_F(PageSetupTest, CancelledChangesNothingAndAColourAndBordersConfirmedAreDrawnAndStored) {
   reader.Start();
+  const QRgb before = PaperOnShow();
+  EXPECT_TRUE(test::Answering<frmSettings>(
+      [&] { QTest::mouseClick(reader.window().bar().cmdPageSetup, Qt::LeftButton); },
+      [&](frmSettings& settings) {
+        shown = &settings;
+        ChangePaper();
+        Type("txtLeftBorder", "900");
+        Click("cmdCancel");
+      }))
+      << "the button shows the dialog";
+  EXPECT_EQ(PaperOnShow(), before);
+  EXPECT_TRUE(reader.user().messages.empty());
+  EXPECT_EQ(sget("LeftBorder", 0).ToNumber(), 0);
+
   const int count = reader.logic().pages().count;
   Open();
   ChangePaper();
@@ -88,26 +94,9 @@ TEST_F(PageSetupTest, AColourAndBordersConfirmedAreDrawnRepaginatedAndStored) {
   EXPECT_EQ(next.pixel(3, 3), qRgb(10, 20, 30)) << "the next spread too";
   EXPECT_GT(next.width() * next.height() - ColourCount(next, qRgb(10, 20, 30)), 500)
       << "with its text, not an emptied cached page";
-  EXPECT_NE(StoredAfterQuit().find("PAPERCOLOUR,1971210\r\n"), std::string::npos);
-}
-
-TEST_F(PageSetupTest, CancelFromTheSettingsButtonChangesNothing) {
-  reader.Start();
-  const QRgb before = PaperOnShow();
-  EXPECT_TRUE(test::Answering<frmSettings>(
-      [&] { QTest::mouseClick(reader.window().bar().cmdPageSetup, Qt::LeftButton); },
-      [&](frmSettings& settings) {
-        shown = &settings;
-        ChangePaper();
-        Type("txtLeftBorder", "900");
-        Click("cmdCancel");
-      }))
-      << "the button shows the dialog";
-  EXPECT_EQ(PaperOnShow(), before);
-  EXPECT_TRUE(reader.user().messages.empty());
-  const std::string stored = StoredAfterQuit();
-  EXPECT_NE(stored.find("PAPERCOLOUR,16777215\r\n"), std::string::npos);
-  EXPECT_EQ(stored.find("LEFTBORDER"), std::string::npos);
+  reader.logic().lifecycle().Quit();
+  EXPECT_NE(test::ReadFile(reader.folder().File("Vireo.ini")).find("PAPERCOLOUR,1971210\r\n"),
+            std::string::npos);
 }
 
 TEST_F(PageSetupTest, EachBorderIsCheckedAtItsLimits) {
@@ -145,35 +134,6 @@ TEST_F(PageSetupTest, EachBorderIsCheckedAtItsLimits) {
       EXPECT_EQ(Find<QLineEdit>(c.box)->text(), c.typed) << "kept as typed";
     }
   }
-}
-
-class TexturedPageSetupTest : public PageSetupTest {
- protected:
-  TexturedPageSetupTest() : PageSetupTest(std::string(test::kInstant) + "TEXTURENUM,-1\r\n") {
-    std::filesystem::copy_file(test::BinFolder() + "/paper3.jpg",
-                               reader.folder().File("paper3.jpg"));
-  }
-};
-
-TEST_F(TexturedPageSetupTest, ATextureChosenIsDrawnOnThePages) {
-  reader.Start();
-  auto colours_in_corner = [&] {
-    const QImage page = test::BoxPicture(reader, kLeftPageBox);
-    QSet<QRgb> colours;
-    for (int y = 0; y < 20; ++y) {
-      for (int x = 0; x < 20; ++x) colours.insert(page.pixel(x, y));
-    }
-    return colours.size();
-  };
-  EXPECT_EQ(colours_in_corner(), 1) << "plain paper";
-  Open();
-  EXPECT_FALSE(Find<QCheckBox>("chkTextured")->isChecked());
-  EXPECT_EQ(dialog->findChild<QToolButton*>("picTexture0"), nullptr) << "only the textures present";
-  Click("picTexture2");
-  EXPECT_TRUE(Find<QCheckBox>("chkTextured")->isChecked());
-  Click("cmdOK");
-  EXPECT_EQ(reader.logic().preferences().texture_num, 2);
-  EXPECT_GT(colours_in_corner(), 1);
 }
 
 }  // namespace

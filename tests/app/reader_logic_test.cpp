@@ -7,7 +7,6 @@
 #include <algorithm>
 
 #include "app/fake_window.h"
-#include "book/load_file.h"
 #include "nav/bookmarks.h"
 
 namespace vireo {
@@ -15,12 +14,11 @@ namespace {
 
 using test::FakeReader;
 using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 using ::testing::Not;
 
 using test::kInstant;
 
-TEST(ReaderLogic, StartUpShowsTheFirstSpreadAndCountsThePages) {
+TEST(ReaderLogic, StartUpShowsTheFirstSpreadBeforeThePaginationEndsAndCountsThePages) {
   FakeReader reader(test::NumberedProse(300), kInstant);
   reader.Start();
   EXPECT_EQ(reader.view.caption, "Book");
@@ -29,6 +27,11 @@ TEST(ReaderLogic, StartUpShowsTheFirstSpreadAndCountsThePages) {
   EXPECT_EQ(reader.view.labels[BarLabel::kPageNumber],
             std::to_string(reader.logic.pages().count) + " pages");
   EXPECT_GT(reader.logic.pages().count, 10);
+  const std::vector<std::string>& milestones = reader.view.milestones;
+  const auto finished = std::find(milestones.begin(), milestones.end(), "pagination finished");
+  ASSERT_NE(finished, milestones.end());
+  EXPECT_NE(std::find(milestones.begin(), finished, "first spread"), finished)
+      << "the reader need not wait for the whole book";
   EXPECT_FALSE(reader.view.splash);
   EXPECT_THAT(reader.view.splash_status, testing::Contains(HasSubstr("Unpacking")));
   // The book's edges at start-up are those of any later layout at that size.
@@ -38,7 +41,27 @@ TEST(ReaderLogic, StartUpShowsTheFirstSpreadAndCountsThePages) {
   EXPECT_EQ(reader.buffers.layout.lines, at_start);
 }
 
-TEST(ReaderLogic, TheBookOpensAtItsStoredPlaceAndExitStoresThePlaceOnShow) {
+TEST(ReaderLogic, ExitWaitsForStartUpThenStoresEveryPreferenceSorted) {
+  FakeReader reader("A short book.");
+  reader.logic.lifecycle().Quit();
+  EXPECT_FALSE(reader.logic.lifecycle().Form_QueryUnload(true))
+      << "a close is refused only while paginating";
+  EXPECT_EQ(reader.view.end_status, -1) << "the window is busy until start-up ends";
+  reader.Start();
+  reader.logic.lifecycle().Quit();
+  EXPECT_EQ(reader.view.end_status, 0);
+  // A first run writes every preference of the shutdown list.
+  EXPECT_EQ(test::ReadFile(reader.folder.File("Vireo.ini")),
+            "BARHIDDEN,False\r\nEXTRAPARAGRAPHLINE,False\r\nFONTNAME,Times New Roman\r\n"
+            "FONTSIZE,10\r\nHLCOLOUR,45056\r\nINDENTED,True\r\nINKCOLOUR,0\r\nJUSTIFY,True\r\n"
+            "PAPERCOLOUR,16777215\r\nPATH," +
+                reader.folder.str() +
+                "\r\nPNCOLOUR,8421504\r\nSINGLEPAGEMODE,False\r\nUNDERSCORES,False\r\nWINHEIGHT," +
+                std::to_string(static_cast<int>(reader.view.size.height)) + "\r\nWINWIDTH," +
+                std::to_string(static_cast<int>(reader.view.size.width)) + "\r\n");
+}
+
+TEST(ReaderLogic, TheBookOpensAtItsStoredPlaceAndExitStoresThePlaceOnShowAfterAnErase) {
   FakeReader reader(test::NumberedProse(300), kInstant);
   test::WriteFile(reader.folder.File("BookMarks.ini"), "BOOK,20000\r\nOTHER BOOK,5000\r\n");
   reader.Start();
@@ -47,15 +70,23 @@ TEST(ReaderLogic, TheBookOpensAtItsStoredPlaceAndExitStoresThePlaceOnShow) {
   EXPECT_LE(pages.PageStart(right - 1), 20000);
   EXPECT_GT(pages.PageStart(right + 1), 20000);
   reader.logic.commands().Form_KeyUp(vk::kSpace, ShiftKey::kUp);
+  reader.logic.commands().mnuEraseBookmarks_Click();
+  EXPECT_EQ(reader.user.messages.back(), "This will erase bookmarks for all files. Are you sure?");
+  EXPECT_EQ(RetrieveBookmark("Other Book"), 5000) << "No erases nothing";
+  reader.user.yes = true;
+  reader.logic.commands().mnuEraseBookmarks_Click();
+  EXPECT_EQ(RetrieveBookmark("Other Book"), 0);
   reader.logic.lifecycle().Quit();
   EXPECT_EQ(test::ReadFile(reader.folder.File("BookMarks.ini")),
-            "BOOK," + std::to_string(pages.PageStart(right + 2)) + "\r\nOTHER BOOK,5000\r\n");
+            "BOOK," + std::to_string(pages.PageStart(right + 2)) + "\r\n");
 }
 
-TEST(ReaderLogic, KeysExitAndResizesAreDroppedWhilePaginatingAndKeysWorkAfterwards) {
+TEST(ReaderLogic, AFontChangeReopensWhereItWasAndDropsKeysExitAndResizesWhilePaginating) {
   FakeReader reader(test::NumberedProse(300), kInstant);
   reader.Start();
-  const int32_t place = reader.logic.pages().PageStart(2);
+  reader.logic.spread().ShowPage(21);
+  const int32_t place = reader.logic.pages().PageStart(reader.logic.current_page());
+  reader.buffers.lamps.clear();
   const size_t messages = reader.user.messages.size();
   const WindowSize size = reader.view.size;
   bool during = false;
@@ -74,9 +105,13 @@ TEST(ReaderLogic, KeysExitAndResizesAreDroppedWhilePaginatingAndKeysWorkAfterwar
   reader.pump.on_yield = nullptr;
   ASSERT_TRUE(during);
   EXPECT_EQ(reader.logic.preferences().font_size, 11) << "the font change went through alone";
+  EXPECT_EQ(reader.view.labels[BarLabel::kFontSize], "11");
+  EXPECT_EQ(RetrieveBookmark(reader.book_path), place);
+  // Paginated again: red while it ran, green when it had finished.
+  EXPECT_THAT(reader.buffers.lamps, testing::IsSupersetOf({Lamp::kRed, Lamp::kGreen}));
   const int right = reader.logic.current_page();
-  EXPECT_LE(reader.logic.pages().PageStart(right - 1), place) << "no page was turned";
-  EXPECT_GT(reader.logic.pages().PageStart(right + 1), place);
+  EXPECT_LE(reader.logic.pages().PageStart(right - 1), place) << "the spread holds the place";
+  EXPECT_GT(reader.logic.pages().PageStart(right + 1), place) << "and no page was turned";
   EXPECT_TRUE(reader.view.bar_visible);
   EXPECT_EQ(reader.view.size, size) << "the resize is undone";
   EXPECT_FALSE(reader.logic.preferences().single_page_mode);
@@ -87,25 +122,6 @@ TEST(ReaderLogic, KeysExitAndResizesAreDroppedWhilePaginatingAndKeysWorkAfterwar
   EXPECT_EQ(reader.logic.current_page(), right + 2);
   reader.logic.commands().Form_KeyUp('Q', ShiftKey::kUp);
   EXPECT_EQ(reader.view.end_status, 0);
-}
-
-TEST(ReaderLogic, AFontSizeChangeReopensTheBookWhereItWas) {
-  FakeReader reader(test::NumberedProse(300), kInstant);
-  reader.Start();
-  reader.logic.spread().ShowPage(21);
-  const int32_t shown_start = reader.logic.pages().PageStart(reader.logic.current_page());
-  reader.buffers.lamps.clear();
-  reader.logic.view_commands().cmdBiggerFont_Click();
-  EXPECT_EQ(reader.logic.preferences().font_size, 11);
-  EXPECT_EQ(reader.view.labels[BarLabel::kFontSize], "11");
-  EXPECT_EQ(RetrieveBookmark(reader.book_path), shown_start);
-  // Paginated again: red while it ran, green when it had finished.
-  EXPECT_THAT(reader.buffers.lamps, testing::IsSupersetOf({Lamp::kRed, Lamp::kGreen}));
-  // The spread on show holds the stored position.
-  const PageIndex& pages = reader.logic.pages();
-  const int c = reader.logic.current_page();
-  EXPECT_LE(pages.PageStart(c - 1), shown_start);
-  EXPECT_TRUE(c + 1 > pages.count || pages.PageStart(c + 1) > shown_start);
 }
 
 TEST(ReaderLogic, TheBarAndThePageModeLayTheBookOutAgain) {
@@ -176,17 +192,34 @@ TEST(ReaderLogic, TheFormattingMenuReloadsTheBookWithItsOptions) {
   EXPECT_EQ(reader.logic.book_pages().text, formatted);
 }
 
-TEST(ReaderLogic, FindNextAndPreviousMoveBetweenMatchesWhateverTheirCase) {
+TEST(ReaderLogic, ANewTermIsShownInPlaceAndFindMovesBetweenMatchesWhateverTheirCase) {
   std::string text = test::NumberedProse(400);
   text.insert(text.find("Paragraph 150 "), "Zebra ");
   text.insert(text.find("Paragraph 300 "), "Zebra ");
   FakeReader reader(text, kInstant);
-  reader.user.answer = "ZEBRA";
   reader.Start();
   const auto no_more_matches = [&] {
     return std::count(reader.user.messages.begin(), reader.user.messages.end(), "No more matches");
   };
-  reader.logic.search().GetSearchTerm();
+  const auto term = [&](const char* answer) {
+    reader.user.answer = answer;
+    reader.logic.search().GetSearchTerm();
+  };
+  term("paragraph 1 tells");
+  EXPECT_EQ(reader.logic.current_page(), 2) << "no search is made";
+  const auto& runs = reader.buffers.boxes[kLeftPageBox].runs;
+  EXPECT_TRUE(std::any_of(runs.begin(), runs.end(), [&](const auto& run) {
+    return run.colour == reader.logic.preferences().highlight_colour;
+  })) << "page 1 holds paragraph 1, drawn again with the match";
+  term("");
+  EXPECT_EQ(reader.view.labels[BarLabel::kSearch], "paragraph 1 tells") << "an empty answer";
+  term("   ");
+  reader.logic.search().FindNext();
+  reader.logic.search().FindPrev();
+  EXPECT_EQ(reader.logic.current_page(), 2) << "a blank term searches nothing";
+  EXPECT_EQ(no_more_matches(), 0);
+
+  term("ZEBRA");
   EXPECT_EQ(reader.view.labels[BarLabel::kSearch], "ZEBRA");
   reader.logic.search().FindPrev();
   EXPECT_EQ(no_more_matches(), 1) << "nothing before the first spread";
@@ -222,30 +255,8 @@ TEST(ReaderLogic, DeletingTheOpenBookErasesItsFileOnlyWhenConfirmed) {
   EXPECT_THAT(reader.buffers.Text(kRightPageBox), HasSubstr("Welcome"));
 }
 
-TEST(ReaderLogic, ADroppedBookLoadsWithItsProgressShownAfterTheSplash) {
+TEST(ReaderLogic, ABookLoadsWithItsStepsInTheLogAndADroppedOneWithItsProgressAfterTheSplash) {
   FakeReader reader(test::NumberedProse(50), kInstant);
-  reader.Start();
-  EXPECT_THAT(reader.view.progress_shown, Not(testing::Contains(HasSubstr("%"))));
-  const std::string dropped = reader.folder.File("Second.txt");
-  test::WriteEbook(dropped, "A second book that is short.");
-  reader.logic.commands().Page_OLEDragDrop(dropped);
-  EXPECT_EQ(reader.view.caption, "Second.txt");
-  EXPECT_THAT(reader.view.progress_shown, testing::Contains(HasSubstr("%")));
-  EXPECT_EQ(reader.view.progress_shown.back(), "");  // taken away when done
-
-  // The name decides whether the file is tried.
-  for (const char* name : {"BOOK.TXT", "notes.txt.old", "page.htm"}) {
-    test::WriteFile(reader.folder.File(name), "Just some text, no book.");
-    reader.logic.commands().Page_OLEDragDrop(reader.folder.File(name));
-    EXPECT_EQ(reader.user.messages.back(), "There is no ebook stored in this file.") << name;
-  }
-  reader.logic.commands().Page_OLEDragDrop(reader.folder.File("picture.png"));
-  EXPECT_EQ(reader.user.messages.back(), "Cannot load that type of file");
-  EXPECT_EQ(reader.view.caption, "Second.txt") << "the book on show stays";
-}
-
-TEST(ReaderLogic, ABookLoadsWithItsStepsInTheLogAndAFileWithoutOneSaysSo) {
-  FakeReader reader(test::NumberedProse(20), kInstant);
   reader.Start();
   const std::string log = test::ReadFile(reader.folder.File("log.txt"));
   size_t at = 0;
@@ -254,14 +265,13 @@ TEST(ReaderLogic, ABookLoadsWithItsStepsInTheLogAndAFileWithoutOneSaysSo) {
     at = log.find("      " + line + "\r\n", at);
     EXPECT_NE(at, std::string::npos) << line << " missing or out of order in\n" << log;
   }
-  for (const std::string& content :
-       {std::string(), std::string("plain text\n"), BookMarker() + "no header marker"}) {
-    const std::string path = reader.folder.File("plain.txt");
-    test::WriteFile(path, content);
-    reader.logic.loader().OpenBook(path);
-    EXPECT_EQ(reader.user.messages.back(), "There is no ebook stored in this file.");
-    EXPECT_EQ(reader.view.caption, "Book");
-  }
+  EXPECT_THAT(reader.view.progress_shown, Not(testing::Contains(HasSubstr("%"))));
+  const std::string dropped = reader.folder.File("Second.txt");
+  test::WriteEbook(dropped, "A second book that is short.");
+  reader.logic.commands().Page_OLEDragDrop(dropped);
+  EXPECT_EQ(reader.view.caption, "Second.txt");
+  EXPECT_THAT(reader.view.progress_shown, testing::Contains(HasSubstr("%")));
+  EXPECT_EQ(reader.view.progress_shown.back(), "");  // taken away when done
 }
 
 }  // namespace

@@ -69,7 +69,7 @@ TEST(Services, CopyPageTakesThePageUnderTheMenuElseTheRightOrOnlyPage) {
 
 // The exported text, made into a book again, loads as the same book text; the UTF-8 export
 // is the same text in the other encoding.
-TEST(Services, ExportRoundTripsTheBookTextInBothEncodings) {
+TEST(Services, ExportRoundTripsTheBookTextInBothEncodingsButNeverOverTheProgram) {
   const std::string text = "Caf\xe9 \x93quoted\x94 words.\r\n\r\nA second paragraph.\r\n\r\n";
   FakeReader reader(text + test::NumberedProse(5), kInstant);
   reader.Start();
@@ -85,9 +85,15 @@ TEST(Services, ExportRoundTripsTheBookTextInBothEncodings) {
   FakeReader again(exported[1], kInstant);
   again.Start();
   EXPECT_EQ(again.logic.book_pages().text, reader.logic.book_pages().text);
+
+  const std::string program = test::ReadFile(reader.book_path);
+  reader.view.services.save_answer = FileChoice{reader.book_path, 0};
+  reader.logic.services().mnuSave_Click();
+  EXPECT_THAT(reader.user.messages.back(), HasSubstr("cannot be saved over the program itself"));
+  EXPECT_EQ(test::ReadFile(reader.book_path), program);
 }
 
-TEST(Services, WebPagesHelpAndPrintGoToTheirServices) {
+TEST(Services, WebPagesHelpPrintAndTheMenuKeysGoToTheirServices) {
   FakeReader reader(test::NumberedProse(40), "PAYAUTHORADDRESS,https://pay.example\r\n");
   reader.Start();
   reader.logic.services().mnuPayAuthor_Click();
@@ -97,6 +103,10 @@ TEST(Services, WebPagesHelpAndPrintGoToTheirServices) {
   reader.logic.commands().Form_KeyUp(vk::kF1, ShiftKey::kUp);
   reader.logic.services().mnuPrint_Click();
   EXPECT_EQ(reader.view.services.manuals, 1);
+  reader.logic.commands().Form_KeyUp(vk::kF10, ShiftKey::kUp);
+  reader.logic.commands().Form_KeyUp(vk::kMenu, ShiftKey::kUp);
+  EXPECT_EQ(reader.view.menus_at_page, 2);
+  EXPECT_EQ(reader.view.context_menus, 0);
   EXPECT_THAT(reader.view.services.printed_page_counts,
               testing::ElementsAre(reader.logic.pages().count));
 }

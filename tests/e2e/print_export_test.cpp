@@ -1,4 +1,4 @@
-// Printing to PDF and exporting, in the real reader run unattended.
+// Printing to PDF in the real reader run unattended.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -33,30 +33,6 @@ TEST(Printing, APdfOfABookPageHoldsThatPagesWordsAndABadPrinterSaysSo) {
                               {"VIREO_MENU=mnuPrint", "VIREO_ANSWER_PRINT=/no/such/folder/x.pdf"});
   EXPECT_THAT(result.err, HasSubstr("[message] Printer Error!: "));
   EXPECT_THAT(result.err, HasSubstr("/no/such/folder/x.pdf"));
-
-  // A page with a picture carries it into the PDF.
-  std::filesystem::copy_file(test::BinFolder() + "/Birdsong", program.Path("Birdsong"));
-  result = test::StartAndQuit(
-      program, "Birdsong",
-      {"VIREO_MENU=mnuPrint", "VIREO_ANSWER_PRINT=" + pdf, "VIREO_ANSWER_PAGES=1-2"});
-  ASSERT_EQ(result.status, 0) << result.err;
-  const auto images = test::Run("pdfimages -list " + pdf, {}, program.folder());
-  EXPECT_THAT(images.out, HasSubstr(" image ")) << images.out;
-}
-
-// The export's encodings are checked through the fake window.
-TEST(Exporting, TheTextIsSavedButNeverOverTheProgram) {
-  test::ProgramFolder program;
-  ASSERT_EQ(test::MakeBook(program, "Book", "Caf\xc3\xa9 au lait.\r\n\r\nSecond.\r\n").status, 0);
-  const std::string saved = program.Path("saved.txt");
-  auto result =
-      test::StartAndQuit(program, "Book", {"VIREO_MENU=mnuSave", "VIREO_ANSWER_FILE=" + saved});
-  EXPECT_EQ(test::ReadFile(saved), "Caf\xc3\xa9 au lait.\n\nSecond.\n\n") << result.err;
-  const std::string before = test::ReadFile(program.Path("Book"));
-  result = test::StartAndQuit(program, "Book",
-                              {"VIREO_MENU=mnuSave", "VIREO_ANSWER_FILE=" + program.Path("Book")});
-  EXPECT_THAT(result.err, HasSubstr("cannot be saved over the program itself"));
-  EXPECT_EQ(test::ReadFile(program.Path("Book")), before);
 }
 
 }  // namespace
