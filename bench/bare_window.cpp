@@ -1,19 +1,17 @@
 // The floor for the reader's start-up: a bare Qt window of the reader's
-// default size, with nothing of the reader in it. With VIREO_TIMING=1 it
-// writes "[timing] first frame <ms since the epoch>" once its first frame is
-// painted, then quits, so that bench/first_spread.sh can set the reader's
-// first spread beside it.
+// default size, with nothing of the reader in it. It writes "[timing] main
+// entered <ms since the epoch>" first thing and "[timing] first frame <ms>"
+// once its first frame is painted, then quits, so that
+// bench/first_spread.sh can set the reader's first spread beside it.
 
 #include <QApplication>
 #include <QPainter>
 #include <QTimer>
 #include <QWidget>
 
-#include <chrono>
-#include <cstdio>
-
 #include "prefs/preference_ranges.h"
 #include "render/qt_surface_qt.h"
+#include "support/milestones.h"
 
 namespace {
 
@@ -23,9 +21,7 @@ class BareWindow : public QWidget {
     QPainter(this).fillRect(rect(), Qt::white);
     if (stamped_) return;
     stamped_ = true;
-    const auto now = std::chrono::duration_cast<std::chrono::milliseconds>(
-        std::chrono::system_clock::now().time_since_epoch());
-    std::fprintf(stderr, "[timing] first frame %lld\n", static_cast<long long>(now.count()));
+    vireo::WriteMilestone("first frame");
     QTimer::singleShot(0, qApp, &QApplication::quit);
   }
 
@@ -36,6 +32,7 @@ class BareWindow : public QWidget {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  vireo::WriteMilestone("main entered");
   QApplication application(argc, argv);
   constexpr double kTwipsPerPixel = vireo::QtSurface::kTwipsPerPixel;
   BareWindow window;

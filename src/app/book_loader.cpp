@@ -2,6 +2,7 @@
 
 #include "book/book_reader.h"
 #include "book/cover_picture.h"
+#include "prefs/settings_get_set.h"
 #include "support/error_trap.h"
 #include "support/logging.h"
 #include "support/translation.h"
@@ -15,6 +16,15 @@ constexpr std::string_view kProcedure = "sub loadfile";
 std::string ProgressText(std::string_view caption, int value, int maximum) {
   const int percent = maximum > 0 ? value * 100 / maximum : 0;
   return std::string(caption) + " " + std::to_string(percent) + "%";
+}
+
+// The formatting the stored settings ask for, read before the preferences
+// are applied; reading them logs nothing here, as they are read again then.
+FormattingOptions StoredFormatting() {
+  HeldBackLog dropped;
+  const HoldBackLogging held(dropped);
+  return {sget("Reformat", true).ToBoolean(), sget("UnderScores", false).ToBoolean(),
+          sget("ExtraParagraphLine", false).ToBoolean()};
 }
 
 }  // namespace
@@ -38,7 +48,7 @@ PictureLoading BookLoader::Pictures(const std::string& path) {
 }
 
 void BookLoader::PrefetchBook(const std::string& path) {
-  prefetch_.Start(path, Formatting(), Pictures(path));
+  prefetch_.Start(path, StoredFormatting(), Pictures(path));
 }
 
 // The prefetched book when there is one for path, else the book read here.

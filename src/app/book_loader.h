@@ -25,9 +25,10 @@ class BookLoader {
   // holds. Without a book the person is told there is no ebook in the file
   // and the open book stays as it was.
   void OpenBook(const std::string& path);
-  // Starts reading and unpacking the book at path on a second thread, for
-  // the OpenBook of the same file and formatting that follows. Until then
-  // nothing may use the picture store or the book's picture files.
+  // Starts reading and unpacking the book at path on a second thread, with
+  // the formatting the stored settings ask for, for the OpenBook of the same
+  // file and formatting that follows. Until then nothing may use the picture
+  // store or the book's picture files.
   void PrefetchBook(const std::string& path);
 
  private:

@@ -123,6 +123,8 @@ void ProgramLifecycle::RunStartupSteps() {
     view.ShowProgress(GetTranslation("Setting up image containers..."));
     context_.images.SetDecoder(context_.buffers.Pictures());
   });
+  // The book is read while the preferences are applied and the window shown.
+  StartupStep([&] { loader_.PrefetchBook(context_.location.executable_path); });
   StartupStep([&] { program_folder_ = ProgramFolderString(folder); });
   StartupStep([&] { ApplyPreferences(); });
   WriteMilestone("settings read");
@@ -130,8 +132,6 @@ void ProgramLifecycle::RunStartupSteps() {
     context_.reformat = sget("Reformat", true).ToBoolean();
     view.SetMenuTick("mnuFormatting", context_.reformat);
   });
-  // The book is read while the blank book is drawn and the window shown.
-  StartupStep([&] { loader_.PrefetchBook(context_.location.executable_path); });
   StartupStep([&] {
     LogAction("Drawing blank book");
     spread_.LayOutBook();
