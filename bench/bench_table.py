@@ -1,11 +1,12 @@
 #!/usr/bin/env python3
 """Turns the benchmark results into the performance table of the README.
 
-Reads the Google Benchmark JSON (medians of repetitions) and the outputs of
+Reads the Google Benchmark JSON files (medians of repetitions; several joined
+with ",") and the outputs of
 bench/first_spread.sh and bench/make_memory.sh (on the King James ebook and
 on the 30 MB book), and prints one Markdown table: figure, target, measured,
 pass.
-    bench_table.py BENCH_JSON FIRST_SPREAD_TXT MAKE_MEMORY_TXT BIG_BOOK_TXT
+    bench_table.py BENCH_JSON[,BENCH_JSON...] FIRST_SPREAD_TXT MAKE_MEMORY_TXT BIG_BOOK_TXT
 """
 import json
 import re
@@ -62,7 +63,9 @@ def start_up(path):
 
 
 def main():
-    runs = medians(sys.argv[1])
+    runs = {}
+    for path in sys.argv[1].split(","):
+        runs.update(medians(path))
     spread = start_up(sys.argv[2])
     make_text = read_text(sys.argv[3])
     big = start_up(sys.argv[4])
