@@ -12,6 +12,7 @@
 #include "book/scrambling.h"
 #include "book/word_table.h"
 #include "support/file_io.h"
+#include "support/large_buffer.h"
 #include "support/logging.h"
 #include "support/platform.h"
 #include "support/runtime_error.h"
@@ -124,7 +125,7 @@ std::string Packable(std::string_view input, TextEncoding encoding, Field field,
   }
   const Escaper escaper(field, tally);
   std::string out;
-  out.reserve(input.size() + input.size() / 32);
+  ReserveLarge(out, input.size() + input.size() / 32);
   if (encoding == TextEncoding::kUtf8 && input.starts_with(kByteOrderMark)) {
     input.remove_prefix(kByteOrderMark.size());
   }
@@ -166,6 +167,36 @@ void MarkExecutable(const std::string& path) {
                                std::filesystem::perm_options::add, not_executable);
 }
 
+// The detail block: field 1 the author, field 3 the title, each closed by
+// a section mark so every field ends before the last mark.
+std::string DetailBlock(std::string_view author, std::string_view title) {
+  std::string details;
+  details += kSectionMark;
+  details += author;
+  details += kSectionMark;
+  details += kSectionMark;
+  details += title;
+  details += kSectionMark;
+  details += kSectionMark;
+  return details;
+}
+
+// The most bytes AppendPackedBody adds (the contraction never lengthens).
+size_t PackedBodySize(std::string_view text, std::string_view author, std::string_view title) {
+  return kLeadInLength + text.size() + DetailBlock(author, title).size() + kTrailerLength;
+}
+
+// Makes file, emptied, able to hold `size` bytes without growing: a book
+// that outgrew it would be copied and its new room faulted in page by page.
+// The old buffer is kept when it is large enough (it is paged in already)
+// and freed before a new one is taken otherwise.
+void MakeRoom(std::string& file, size_t size) {
+  file.clear();
+  if (file.capacity() >= size) return;
+  file = std::string();
+  ReserveLarge(file, size);
+}
+
 std::string Filler(size_t length) {
   std::string filler;
   while (filler.size() < length) filler += kFiller;
@@ -186,16 +217,7 @@ std::string PackableDetail(std::string_view input, TextEncoding encoding,
 
 void AppendPackedBody(std::string& out, std::string_view text, std::string_view author,
                       std::string_view title) {
-  // The detail block: field 1 the author, field 3 the title, each closed by
-  // a section mark so every field ends before the last mark.
-  std::string details;
-  details += kSectionMark;
-  details += author;
-  details += kSectionMark;
-  details += kSectionMark;
-  details += title;
-  details += kSectionMark;
-  details += kSectionMark;
+  const std::string details = DetailBlock(author, title);
   const size_t half = text.size() / 2;
   const std::string lead_in = Filler(kLeadInLength);
   const std::string trailer = Filler(kTrailerLength);
@@ -252,19 +274,22 @@ MakeResult MakeEbook(const MakeRequest& request) {
     std::string text = PackableText(file, result.encoding, &tally);
     // The book takes the input's place: that memory is paged in already,
     // which spares the page faults of a fresh buffer as large as the book.
-    file.clear();
+    std::string start;
     if (request.form == MakeForm::kEbook) {
       stage = "cannot use the stub " + request.stub_path;
       progress("Preparing the reader", 40);
       const std::string out_folder =
           std::filesystem::absolute(request.out_path).parent_path().string();
-      const std::string start = EbookFileStart(PrepareStub(request.stub_path, out_folder));
-      file.assign(start.data(), start.size());  // a copy keeps the buffer; a move would not
+      start = EbookFileStart(PrepareStub(request.stub_path, out_folder));
     }
-    const size_t body_start = file.size();
     stage = "cannot pack the book";
     progress("Packing the book", 55);
-    AppendPackedBody(file, text, Detail(request.author, tally), Detail(request.title, tally));
+    const std::string author = Detail(request.author, tally);
+    const std::string title = Detail(request.title, tally);
+    MakeRoom(file, start.size() + PackedBodySize(text, author, title));
+    file.assign(start.data(), start.size());  // a copy keeps the buffer; a move would not
+    const size_t body_start = file.size();
+    AppendPackedBody(file, text, author, title);
     result.text_length = text.size();
     result.stored_size = file.size() - body_start;
     if (request.after_book) {
