@@ -83,7 +83,7 @@ std::string TemporaryBeside(const std::filesystem::path& target) {
 
 }  // namespace
 
-std::string ReadWholeFile(const std::string& path) {
+std::string ReadWholeFile(const std::string& path, size_t spare) {
   std::error_code error;
   if (!std::filesystem::exists(path, error)) throw RuntimeError(ErrorNumber::kFileNotFound);
   std::ifstream in(path, std::ios::binary);
@@ -92,7 +92,7 @@ std::string ReadWholeFile(const std::string& path) {
   in.seekg(0, std::ios::end);
   const auto size = in.tellg();
   if (size < 0) throw RuntimeError(ErrorNumber::kPathFileAccess);
-  ReserveLarge(content, static_cast<size_t>(size));
+  ReserveLarge(content, static_cast<size_t>(size) + spare);
   content.resize(static_cast<size_t>(size));
   in.seekg(0, std::ios::beg);
   in.read(content.data(), size);
