@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
+#include <future>
 #include <optional>
 
 #include "book/ebook_stub.h"
@@ -12,6 +13,7 @@
 #include "book/scrambling.h"
 #include "book/word_table.h"
 #include "support/file_io.h"
+#include "support/large_buffer.h"
 #include "support/logging.h"
 #include "support/platform.h"
 #include "support/runtime_error.h"
@@ -124,7 +126,7 @@ std::string Packable(std::string_view input, TextEncoding encoding, Field field,
   }
   const Escaper escaper(field, tally);
   std::string out;
-  out.reserve(input.size() + input.size() / 32);
+  ReserveLarge(out, input.size() + input.size() / 32);
   if (encoding == TextEncoding::kUtf8 && input.starts_with(kByteOrderMark)) {
     input.remove_prefix(kByteOrderMark.size());
   }
@@ -166,6 +168,61 @@ void MarkExecutable(const std::string& path) {
                                std::filesystem::perm_options::add, not_executable);
 }
 
+// The detail block: field 1 the author, field 3 the title, each closed by
+// a section mark so every field ends before the last mark.
+std::string DetailBlock(std::string_view author, std::string_view title) {
+  std::string details;
+  details += kSectionMark;
+  details += author;
+  details += kSectionMark;
+  details += kSectionMark;
+  details += title;
+  details += kSectionMark;
+  details += kSectionMark;
+  return details;
+}
+
+// The most bytes AppendPackedBody adds (the contraction never lengthens).
+size_t PackedBodySize(std::string_view text, std::string_view author, std::string_view title) {
+  return kLeadInLength + text.size() + DetailBlock(author, title).size() + kTrailerLength;
+}
+
+// What the text's buffer is given beyond the text so that the book can take
+// its place (MakeRoom): the packable text is about as long as the input
+// (references lengthen it, UTF-8 letters shorten it) and the stub comes
+// before it. Reserved room that is never used costs no memory.
+size_t RoomBeyondText(const std::string& text_path) {
+  constexpr size_t kStubRoom = size_t{8} << 20;
+  std::error_code unknown;
+  const uintmax_t size = std::filesystem::file_size(text_path, unknown);
+  return unknown ? 0 : static_cast<size_t>(size / 16) + kStubRoom;
+}
+
+// Makes file, emptied, able to hold `size` bytes without growing: a book
+// that outgrew it would be copied and its new room faulted in page by page.
+// The old buffer is kept when it is large enough (it is paged in already)
+// and freed before a new one is taken otherwise.
+void MakeRoom(std::string& file, size_t size) {
+  file.clear();
+  if (file.capacity() >= size) return;
+  file.shrink_to_fit();  // frees it: reserving on top would double the old room
+  ReserveLarge(file, size);
+}
+
+// What comes before the body: for an ebook the prepared stub and the
+// header, made on a thread of its own, since stripping the stub runs a
+// program and waits for it while the text is converted here; nothing for a
+// ".brn" book. Its failure is thrown by get().
+std::future<std::string> StartFileStart(const MakeRequest& request) {
+  if (request.form != MakeForm::kEbook) {
+    return std::async(std::launch::deferred, [] { return std::string(); });
+  }
+  return std::async(std::launch::async, [stub = request.stub_path, out = request.out_path] {
+    const std::string out_folder = std::filesystem::absolute(out).parent_path().string();
+    return EbookFileStart(PrepareStub(stub, out_folder));
+  });
+}
+
 std::string Filler(size_t length) {
   std::string filler;
   while (filler.size() < length) filler += kFiller;
@@ -186,16 +243,7 @@ std::string PackableDetail(std::string_view input, TextEncoding encoding,
 
 void AppendPackedBody(std::string& out, std::string_view text, std::string_view author,
                       std::string_view title) {
-  // The detail block: field 1 the author, field 3 the title, each closed by
-  // a section mark so every field ends before the last mark.
-  std::string details;
-  details += kSectionMark;
-  details += author;
-  details += kSectionMark;
-  details += kSectionMark;
-  details += title;
-  details += kSectionMark;
-  details += kSectionMark;
+  const std::string details = DetailBlock(author, title);
   const size_t half = text.size() / 2;
   const std::string lead_in = Filler(kLeadInLength);
   const std::string trailer = Filler(kTrailerLength);
@@ -239,32 +287,33 @@ MakeResult MakeEbook(const MakeRequest& request) {
   std::string stage = "cannot read the text " + request.text_path;
   try {
     progress("Reading the text", 10);
-    std::string file = ReadWholeFile(request.text_path);
+    std::string file = ReadWholeFile(request.text_path, RoomBeyondText(request.text_path));
     const size_t input_size = file.size();
     if (file.empty()) {
       result.message = "the text " + request.text_path + " is empty";
       return result;
     }
+    std::future<std::string> file_start = StartFileStart(request);
     result.encoding = DetectEncoding(file);
     stage = "cannot read the text " + request.text_path + " as UTF-8";
     progress("Converting the text", 25);
     ReplacementTally tally;
     std::string text = PackableText(file, result.encoding, &tally);
-    // The book takes the input's place: that memory is paged in already,
-    // which spares the page faults of a fresh buffer as large as the book.
-    file.clear();
     if (request.form == MakeForm::kEbook) {
       stage = "cannot use the stub " + request.stub_path;
       progress("Preparing the reader", 40);
-      const std::string out_folder =
-          std::filesystem::absolute(request.out_path).parent_path().string();
-      const std::string start = EbookFileStart(PrepareStub(request.stub_path, out_folder));
-      file.assign(start.data(), start.size());  // a copy keeps the buffer; a move would not
     }
-    const size_t body_start = file.size();
+    const std::string start = file_start.get();
     stage = "cannot pack the book";
     progress("Packing the book", 55);
-    AppendPackedBody(file, text, Detail(request.author, tally), Detail(request.title, tally));
+    const std::string author = Detail(request.author, tally);
+    const std::string title = Detail(request.title, tally);
+    // The book takes the input's place when it fits: that memory is paged in
+    // already, which spares the page faults of a fresh buffer.
+    MakeRoom(file, start.size() + PackedBodySize(text, author, title));
+    file.assign(start.data(), start.size());  // a copy keeps the buffer; a move would not
+    const size_t body_start = file.size();
+    AppendPackedBody(file, text, author, title);
     result.text_length = text.size();
     result.stored_size = file.size() - body_start;
     if (request.after_book) {

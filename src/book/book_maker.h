@@ -95,7 +95,8 @@ struct MakeResult {
 // (unreadable or empty: error), prepares the stub (ebooks only), packs, and
 // writes out_path through a temporary file, so that on any failure nothing
 // is left at out_path and the text and the stub are untouched. An ebook is
-// made executable. Memory: about twice the text, plus the stub.
+// made executable. The stub is prepared on a second thread while the text
+// is converted. Memory: about twice the text, plus the stub.
 MakeResult MakeEbook(const MakeRequest& request);
 
 }  // namespace vireo

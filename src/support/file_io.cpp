@@ -1,7 +1,9 @@
 #include "support/file_io.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
@@ -51,10 +53,29 @@ ErrorNumber WriteError(int error_number) {
   return error_number == ENOSPC ? ErrorNumber::kDiskFull : ErrorNumber::kPathFileAccess;
 }
 
+// Asks the system to start writing a range of the file to disk now instead
+// of when the final flush asks for all of it; only a hint, so a failure is
+// left to the flush to report.
+void StartWriteback(FILE* file, size_t offset, size_t length) {
+#if defined(__linux__)
+  sync_file_range(fileno(file), static_cast<off_t>(offset), static_cast<off_t>(length),
+                  SYNC_FILE_RANGE_WRITE);
+#else
+  static_cast<void>(file), static_cast<void>(offset), static_cast<void>(length);
+#endif
+}
+
+// Writes in pieces, each sent on to the disk as soon as it is written, so
+// that the disk works while the later pieces are copied and the final flush
+// has little left to wait for (a book is tens of megabytes).
 void WriteAndSync(FILE* file, const std::string& content) {
-  if (std::fwrite(content.data(), 1, content.size(), file) != content.size() ||
-      std::fflush(file) != 0) {
-    throw RuntimeError(WriteError(errno));
+  constexpr size_t kPiece = size_t{8} << 20;
+  for (size_t at = 0; at < content.size(); at += kPiece) {
+    const size_t length = std::min(kPiece, content.size() - at);
+    if (std::fwrite(content.data() + at, 1, length, file) != length || std::fflush(file) != 0) {
+      throw RuntimeError(WriteError(errno));
+    }
+    StartWriteback(file, at, length);
   }
 #if !defined(_WIN32)
   if (fsync(fileno(file)) != 0) throw RuntimeError(WriteError(errno));
@@ -83,7 +104,7 @@ std::string TemporaryBeside(const std::filesystem::path& target) {
 
 }  // namespace
 
-std::string ReadWholeFile(const std::string& path) {
+std::string ReadWholeFile(const std::string& path, size_t spare) {
   std::error_code error;
   if (!std::filesystem::exists(path, error)) throw RuntimeError(ErrorNumber::kFileNotFound);
   std::ifstream in(path, std::ios::binary);
@@ -92,7 +113,7 @@ std::string ReadWholeFile(const std::string& path) {
   in.seekg(0, std::ios::end);
   const auto size = in.tellg();
   if (size < 0) throw RuntimeError(ErrorNumber::kPathFileAccess);
-  ReserveLarge(content, static_cast<size_t>(size));
+  ReserveLarge(content, static_cast<size_t>(size) + spare);
   content.resize(static_cast<size_t>(size));
   in.seekg(0, std::ios::beg);
   in.read(content.data(), size);

@@ -1,13 +1,15 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 
 namespace vireo {
 
 // The whole file as bytes. Throws RuntimeError 53 (missing) or 75 (cannot be
-// read).
-std::string ReadWholeFile(const std::string& path);
+// read). Room for `spare` more bytes is reserved (not touched), for a caller
+// that goes on to build something larger in the same buffer.
+std::string ReadWholeFile(const std::string& path, size_t spare = 0);
 
 // The shared opening check before a file is written: a file that exists and
 // is read-only gets its read-only attribute (all write bits clear) lifted.
