@@ -24,7 +24,7 @@ void BookPrefetch::Read(const PictureLoading& pictures) {
     book = ReadBookFile(path_, options_,
                         [this](std::string_view caption, int value, int maximum) {
                           const std::lock_guard lock(mutex_);
-                          progress_ = {std::string(caption), value, maximum, true};
+                          progress_.push_back({std::string(caption), value, maximum});
                           changed_.notify_one();
                         },
                         pictures);
@@ -38,16 +38,16 @@ void BookPrefetch::Read(const PictureLoading& pictures) {
 void BookPrefetch::Wait(const ProgressHandler& progress) {
   std::unique_lock lock(mutex_);
   for (;;) {
-    changed_.wait(lock, [this] { return done_ || progress_.fresh; });
-    if (progress_.fresh) {
-      progress_.fresh = false;
-      const Progress shown = progress_;
-      lock.unlock();
-      if (progress) progress(shown.caption, shown.value, shown.maximum);
-      lock.lock();
-      continue;
+    changed_.wait(lock, [this] { return done_ || !progress_.empty(); });
+    std::vector<Progress> told;
+    told.swap(progress_);
+    const bool done = done_;
+    lock.unlock();
+    for (const Progress& step : told) {
+      if (progress) progress(step.caption, step.value, step.maximum);
     }
-    return;
+    if (done) return;
+    lock.lock();
   }
 }
 

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <thread>
+#include <vector>
 
 #include "book/book_reader.h"
 #include "support/logging.h"
@@ -16,8 +17,9 @@ namespace vireo {
 // being set up and shown, so that opening it only waits for what is left.
 // Everything the reading logs is held back and written when the book is
 // taken, where reading it there and then would have written it; its
-// progress is shown by the thread waiting for it. Whoever starts it keeps
-// its picture store and files untouched until the book is taken.
+// progress is passed on, step by step, by the thread waiting for it.
+// Whoever starts it keeps its picture store and files untouched until the
+// book is taken.
 class BookPrefetch {
  public:
   BookPrefetch() = default;
@@ -27,7 +29,8 @@ class BookPrefetch {
 
   void Start(const std::string& path, const FormattingOptions& options,
              const PictureLoading& pictures);
-  // Waits for the reading to end, passing its progress on to progress, and
+  // Waits for the reading to end, passing each step of its progress on to
+  // progress in order, and
   // gives its book when it was started for path with options; nullopt when
   // none was started, or for another file or other options (that reading is
   // dropped, its log with it).
@@ -39,7 +42,6 @@ class BookPrefetch {
     std::string caption;
     int value = 0;
     int maximum = 0;
-    bool fresh = false;
   };
   void Read(const PictureLoading& pictures);
   void Wait(const ProgressHandler& progress);
@@ -49,7 +51,7 @@ class BookPrefetch {
   std::thread reader_;
   std::mutex mutex_;
   std::condition_variable changed_;
-  Progress progress_;
+  std::vector<Progress> progress_;  // told by the reading, not yet passed on
   bool done_ = false;
   BookReadResult book_;
   HeldBackLog log_;
