@@ -45,6 +45,7 @@ void BookSpread::LayOutBook() {
     DrawDoublePageBook(input, layout);
   }
   context_.buffers.ApplyLayout(layout);
+  laid_out_ = true;
   plotter_.SetPageBorders();
 }
 
@@ -68,6 +69,10 @@ void BookSpread::ShowPage(int page) {
 }
 
 void BookSpread::RedrawPages() {
+  // Until the book is first laid out its page buffers are placeholders that
+  // the layout replaces, so nothing drawn on them could ever be seen (the
+  // preferences applied at start-up would draw the title page twice).
+  if (!laid_out_) return;
   Trap("sub redrawpages", kModule, [&] {
     if (!context_.book.loaded) {
       plotter_.DrawTitlePage();

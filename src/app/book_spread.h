@@ -65,6 +65,7 @@ class BookSpread {
 
   ReaderContext& context_;
   WindowSize laid_out_size_;
+  bool laid_out_ = false;
   TurnSettings turn_settings_;
   clsPrintPage composer_;
   PagePlotter plotter_;
