@@ -126,7 +126,7 @@ std::string Packable(std::string_view input, TextEncoding encoding, Field field,
   }
   const Escaper escaper(field, tally);
   std::string out;
-  ReserveLarge(out, input.size() + input.size() / 32);
+  ReserveLarge(out, input.size(), input.size() / 32);
   if (encoding == TextEncoding::kUtf8 && input.starts_with(kByteOrderMark)) {
     input.remove_prefix(kByteOrderMark.size());
   }

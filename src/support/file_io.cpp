@@ -113,7 +113,7 @@ std::string ReadWholeFile(const std::string& path, size_t spare) {
   in.seekg(0, std::ios::end);
   const auto size = in.tellg();
   if (size < 0) throw RuntimeError(ErrorNumber::kPathFileAccess);
-  ReserveLarge(content, static_cast<size_t>(size) + spare);
+  ReserveLarge(content, static_cast<size_t>(size), spare);
   content.resize(static_cast<size_t>(size));
   in.seekg(0, std::ios::beg);
   in.read(content.data(), size);

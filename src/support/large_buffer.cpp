@@ -15,19 +15,17 @@ constexpr size_t kLargeBuffer = size_t{4} << 20;
 
 }  // namespace
 
-void ReserveLarge(std::string& text, size_t size) {
-  text.reserve(size);
+void ReserveLarge(std::string& text, size_t size, size_t spare) {
+  text.reserve(size + spare);
 #if defined(__linux__) && defined(MADV_HUGEPAGE)
-  if (size < kLargeBuffer) return;
+  if (size + spare < kLargeBuffer) return;
   // Only the whole huge pages inside the room can be backed by one.
   const auto begin = reinterpret_cast<uintptr_t>(text.data());
   const uintptr_t first = (begin + kHugePage - 1) & ~(kHugePage - 1);
-  const uintptr_t last = (begin + size) & ~(kHugePage - 1);
+  const uintptr_t last = (begin + size + spare) & ~(kHugePage - 1);
   if (last > first) madvise(reinterpret_cast<void*>(first), last - first, MADV_HUGEPAGE);
 #if defined(MADV_POPULATE_WRITE)
-  // The room is written at once by its users; asking for all of its pages
-  // in one call costs far less than a page fault for each (older kernels
-  // refuse, and the pages then come one fault at a time as before).
+  // Older kernels refuse; the pages then come one fault at a time.
   constexpr uintptr_t kPage = 4096;
   const uintptr_t start = begin & ~(kPage - 1);
   madvise(reinterpret_cast<void*>(start), begin + size - start, MADV_POPULATE_WRITE);
