@@ -24,8 +24,9 @@ class LampWidget;
 // them, the page boxes Page(0)..Page(7). Every box is an image buffer of the
 // page size with a drawing surface; a box is a window onto its buffer that
 // can be narrowed, moved, hidden and stacked for the page-turn sweep.
-// Geometry is kept in twips (15 to a logical pixel). It also holds the language list beside the
-// title page and drives the status lamp on the control bar.
+// Geometry is kept in twips (15 to a logical pixel). It also holds the
+// language list beside the title page and drives the status lamp on the
+// control bar.
 class BookCanvasWidget : public QWidget, public PageBuffers {
   Q_OBJECT
 

@@ -30,10 +30,9 @@ class BookPrefetch {
   void Start(const std::string& path, const FormattingOptions& options,
              const PictureLoading& pictures);
   // Waits for the reading to end, passing each step of its progress on to
-  // progress in order, and
-  // gives its book when it was started for path with options; nullopt when
-  // none was started, or for another file or other options (that reading is
-  // dropped, its log with it).
+  // progress in order, and gives its book when it was started for path with
+  // options; nullopt when none was started, or for another file or other
+  // options (that reading is dropped, its log with it).
   std::optional<BookReadResult> Take(const std::string& path, const FormattingOptions& options,
                                      const ProgressHandler& progress);
 

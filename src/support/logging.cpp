@@ -162,8 +162,10 @@ void HeldBackLog::WriteOut() {
   for (const auto& write : writes) write();
 }
 
-HoldBackLogging::HoldBackLogging(HeldBackLog& held) { held_back_here = &held; }
-HoldBackLogging::~HoldBackLogging() { held_back_here = nullptr; }
+HoldBackLogging::HoldBackLogging(HeldBackLog& held) : before_(held_back_here) {
+  held_back_here = &held;
+}
+HoldBackLogging::~HoldBackLogging() { held_back_here = before_; }
 HeldBackLog* HeldBackLogHere() { return held_back_here; }
 
 void LogAction(std::string_view text, LogFile file) {

@@ -81,13 +81,17 @@ class HeldBackLog {
   std::vector<std::function<void()>> writes_;
 };
 
-// While one lives, the logging of the thread that made it goes to held.
+// While one lives, the logging of the thread that made it goes to held;
+// after, to where it went before.
 class HoldBackLogging {
  public:
   explicit HoldBackLogging(HeldBackLog& held);
   ~HoldBackLogging();
   HoldBackLogging(const HoldBackLogging&) = delete;
   HoldBackLogging& operator=(const HoldBackLogging&) = delete;
+
+ private:
+  HeldBackLog* before_;
 };
 
 // The log this thread holds its logging back in, or nullptr.
