@@ -55,12 +55,10 @@ echo "first spread on screen: $(cut -d' ' -f1 "$work/reader" | median) ms (media
 echo "pagination finished:    $(step_median "pagination finished") ms"
 echo "bare window first frame: $(cut -d' ' -f1 "$work/bare" | median) ms (main entered at $(step_median "main entered" "$work/bare_steps") ms)"
 echo "peak memory: reader $(cut -d' ' -f2 "$work/reader" | median) KB, bare window $(cut -d' ' -f2 "$work/bare" | median) KB, book text $((text / 1024)) KB"
-echo "where the start-up time goes (median ms from process start; the step's own time):"
+echo "where the start-up time goes (median ms from process start; the time since the milestone before):"
 previous=0
-while read -r milestone; do
-  at=$(step_median "$milestone")
+while read -r at milestone; do
   printf '  %-20s %6s %6s\n' "$milestone" "$at" "$((at - previous))"
   previous=$at
 done < <(awk '{$1 = ""; sub(/^ /, ""); print}' "$work/steps" | awk '!seen[$0]++' |
-  while read -r milestone; do echo "$(step_median "$milestone") $milestone"; done | sort -n |
-  cut -d' ' -f2-)
+  while read -r milestone; do echo "$(step_median "$milestone") $milestone"; done | sort -n)
