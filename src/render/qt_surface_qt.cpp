@@ -6,6 +6,8 @@
 
 #include <QPainter>
 #include <QString>
+#include <cmath>
+#include <limits>
 #include <tuple>
 
 #include "support/windows1252.h"
@@ -20,6 +22,18 @@ QFont BookFont() {
   font.setKerning(false);
   font.setStyleStrategy(QFont::PreferNoShaping);
   return font;
+}
+
+// The 256 Windows-1252 characters in code order.
+const QString& Windows1252Characters() {
+  static const QString characters = [] {
+    QString all;
+    for (int code = 0; code < 256; ++code) {
+      all.append(QChar(static_cast<char16_t>(Windows1252ToUnicode(static_cast<uint8_t>(code)))));
+    }
+    return all;
+  }();
+  return characters;
 }
 
 }  // namespace
@@ -53,10 +67,10 @@ QColor QtSurface::ColorFromBgr(uint32_t bgr) {
 
 void QtSurface::FontChanged() { metrics_.reset(); }
 
-// Glyph and advance of every Windows-1252 character in the current style,
-// made once per face, size and style and kept (a page switches between the
-// book's size and the page number's): drawing a run is then table look-ups
-// and one glyph run, without shaping the text again.
+// Glyph of every Windows-1252 character in the current style, made once per
+// face, size and style and kept (a page switches between the book's size and
+// the page number's), with the advances as they are measured: drawing a run
+// is then table look-ups and one glyph run, without shaping the text again.
 const QtSurface::GlyphTable& QtSurface::Glyphs() const {
   const GlyphKey key{font_.family(), font_.pointSizeF(),
                      (font_.bold() ? 1 : 0) + (font_.italic() ? 2 : 0)};
@@ -64,17 +78,18 @@ const QtSurface::GlyphTable& QtSurface::Glyphs() const {
   if (found != glyph_tables_.end()) return found->second;
   GlyphTable* table = &glyph_tables_[key];
   table->raw = QRawFont::fromFont(font_);
-  QString characters;
-  for (int code = 0; code < 256; ++code) {
-    characters.append(
-        QChar(static_cast<char16_t>(Windows1252ToUnicode(static_cast<uint8_t>(code)))));
-  }
-  const QList<quint32> glyphs = table->raw.glyphIndexesForString(characters);
+  const QList<quint32> glyphs = table->raw.glyphIndexesForString(Windows1252Characters());
   for (int code = 0; code < 256; ++code) {
     table->glyphs[code] = code < glyphs.size() ? glyphs[code] : 0;
-    table->advances[code] = Metrics().horizontalAdvance(characters[code]);
   }
+  table->advances.fill(std::numeric_limits<qreal>::quiet_NaN());
   return *table;
+}
+
+qreal QtSurface::Advance(const GlyphTable& table, uint8_t code) const {
+  qreal& advance = table.advances[code];
+  if (std::isnan(advance)) advance = Metrics().horizontalAdvance(Windows1252Characters()[code]);
+  return advance;
 }
 
 bool QtSurface::GlyphKey::operator<(const GlyphKey& other) const {
@@ -124,7 +139,7 @@ void QtSurface::SetFontUnderline(bool underline) {
 double QtSurface::TextWidth(std::string_view text) const {
   const GlyphTable& table = Glyphs();
   qreal width = 0;
-  for (char c : text) width += table.advances[static_cast<uint8_t>(c)];
+  for (char c : text) width += Advance(table, static_cast<uint8_t>(c));
   return width * kTwipsPerPixel;
 }
 
@@ -162,7 +177,7 @@ void QtSurface::DrawText(std::string_view text) {
     const auto code = static_cast<uint8_t>(c);
     pending_.glyphs.append(table.glyphs[code]);
     pending_.positions.append(origin + QPointF(x, 0));
-    x += table.advances[code];
+    x += Advance(table, code);
   }
   if (underline) DrawPendingGlyphs();
   SetCurrentX(CurrentX() + x * kTwipsPerPixel);

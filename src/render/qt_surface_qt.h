@@ -106,10 +106,15 @@ class QtSurface : public Surface {
     QRawFont raw;
     // Filled whole when the table is made.
     std::array<quint32, 256> glyphs;
-    std::array<qreal, 256> advances;  // logical pixels
+    // Logical pixels; each measured when first asked for (NaN until then):
+    // measuring loads the glyph, and a title page or a page number uses a
+    // few of the 256 characters in each of its sizes.
+    mutable std::array<qreal, 256> advances;
   };
   void FontChanged();
   const GlyphTable& Glyphs() const;
+  // The advance of code in table, which is the current font's.
+  qreal Advance(const GlyphTable& table, uint8_t code) const;
   QPainter& Painter();
   void DrawPendingGlyphs();
   const QFontMetricsF& Metrics() const;
