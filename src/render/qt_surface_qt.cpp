@@ -8,9 +8,9 @@
 #include <QString>
 #include <cmath>
 #include <limits>
+#include <string>
 #include <tuple>
 
-#include "support/windows1252.h"
 #include "support/windows1252_qt.h"
 
 namespace vireo {
@@ -27,11 +27,9 @@ QFont BookFont() {
 // The 256 Windows-1252 characters in code order.
 const QString& Windows1252Characters() {
   static const QString characters = [] {
-    QString all;
-    for (int code = 0; code < 256; ++code) {
-      all.append(QChar(static_cast<char16_t>(Windows1252ToUnicode(static_cast<uint8_t>(code)))));
-    }
-    return all;
+    std::string codes(256, '\0');
+    for (int code = 0; code < 256; ++code) codes[code] = static_cast<char>(code);
+    return FromWindows1252(codes);
   }();
   return characters;
 }
