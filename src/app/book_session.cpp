@@ -45,6 +45,7 @@ void BookSession::BookLoaded(std::string text, std::string author, std::string t
                              std::string path) {
   path_ = std::move(path);
   context_.book.text = std::move(text);
+  context_.book.styles = StylesUsed::In(context_.book.text);
   ++version_;
   author_ = std::move(author);
   title_ = std::move(title);

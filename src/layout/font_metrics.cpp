@@ -1,5 +1,7 @@
 #include "layout/font_metrics.h"
 
+#include <utility>
+
 #include "layout/text_measure.h"
 #include "support/error_trap.h"
 
@@ -32,14 +34,24 @@ void clsFontMetrics::UpdateWidest() {
   }
 }
 
-void clsFontMetrics::MakeArrays(TextMeasure& surface) {
+StylesUsed StylesUsed::In(std::string_view text) {
+  return {text.find('\x80') != std::string_view::npos, text.find('\x82') != std::string_view::npos};
+}
+
+void clsFontMetrics::MakeArrays(TextMeasure& surface, StylesUsed used) {
   Trap("sub makearrays", kModule, [&] {
     widest_ = 0;
     FillTable(surface, false, false);
     UpdateWidest();
-    FillTable(surface, true, false);
-    FillTable(surface, false, true);
-    FillTable(surface, true, true);
+    for (const auto& [bold, italic] : {std::pair{true, false}, {false, true}, {true, true}}) {
+      if ((!bold || used.bold) && (!italic || used.italic)) {
+        FillTable(surface, bold, italic);
+      } else {
+        tables_[TableIndex(bold, italic)].fill(0);
+      }
+    }
+    surface.SetFontBold(true);
+    surface.SetFontItalic(true);
   });
 }
 

@@ -7,6 +7,19 @@ namespace vireo {
 
 class TextMeasure;
 
+// Which styled tables a text can read. A style is only ever switched on by
+// its code in the text (128 bold, 130 italic), so a text without the code
+// never reads that style's table, nor bold-italic without both.
+struct StylesUsed {
+  bool bold = true;
+  bool italic = true;
+
+  static StylesUsed In(std::string_view text);
+  bool Covers(StylesUsed other) const {
+    return (bold || !other.bold) && (italic || !other.italic);
+  }
+};
+
 // Character widths of the book font in its four styles, measured once from a
 // surface and then read without touching it. Widths are in the surface's
 // units (twips for every surface of this program); nothing is converted.
@@ -17,9 +30,11 @@ class clsFontMetrics {
 
   // Rebuilds the four tables with 1,020 width queries (code 10, the line
   // feed, is never measured and stays 0) and the widest plain character.
+  // With `used`, the tables of styles outside it are left all 0 unmeasured:
+  // each query loads a glyph, and most books are never bold or italic.
   // The surface is left bold and italic, underline off: callers set the
   // style they want before drawing.
-  void MakeArrays(TextMeasure& measure);
+  void MakeArrays(TextMeasure& measure, StylesUsed used = {});
 
   // Width of the first character of text in the style. Code 0 (and an empty
   // text) falls outside the tables: the error is logged under

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "layout/font_metrics.h"
 #include "layout/page_index.h"
 
 namespace vireo {
@@ -21,6 +22,7 @@ struct PageContent {
 // holds it read-only.
 struct BookPages {
   std::string text;  // Windows-1252 bytes, positions counted from 1
+  StylesUsed styles;  // of text, measured when it is loaded
   PageIndex index;
   bool loaded = false;  // false: no book, the title page is shown
 

@@ -31,10 +31,13 @@ void PagePlotter::SetPageBorders() {
   vireo::SetPageBorders(buffers_.Box(0), prefs_.font_size, area_);
 }
 
+// Only the styles the book's text uses are measured; another book may
+// need more of them later.
 void PagePlotter::EnsureFontTables() {
-  if (!font_tables_stale_) return;
+  if (!font_tables_stale_ && measured_styles_.Covers(book_.styles)) return;
   font_tables_stale_ = false;
-  metrics_.MakeArrays(buffers_.Box(kLeftPageBox));
+  measured_styles_ = book_.styles;
+  metrics_.MakeArrays(buffers_.Box(kLeftPageBox), measured_styles_);
 }
 
 bool PagePlotter::BookLoaded() const { return book_.loaded; }

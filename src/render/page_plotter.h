@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "layout/font_metrics.h"
 #include "render/book_display.h"
 #include "render/book_view.h"
 #include "render/page_settings.h"
@@ -13,7 +14,6 @@ namespace vireo {
 class PageBuffers;
 class clsNewImages;
 struct Picture;
-class clsFontMetrics;
 class Surface;
 struct BookPages;
 struct ReaderPreferences;
@@ -92,6 +92,7 @@ class PagePlotter : public BookDisplay, public PrintPageObserver {
   PageTextArea area_;
   std::string search_term_;
   bool font_tables_stale_ = true;
+  StylesUsed measured_styles_;  // whose tables are measured for the font
   clsNewImages* images_ = nullptr;
   const Picture* cover_ = nullptr;
   bool cover_shown_ = false;

@@ -90,5 +90,22 @@ TEST_F(PagePlotterTest, PagesOutsideTheBookDrawNothingAndWithoutABookTheTitlePag
   EXPECT_TRUE(boxes.placement.has_value());
 }
 
+TEST_F(PagePlotterTest, OnlyTheStylesTheBookUsesAreMeasuredAndABookWithMoreMeasuresThem) {
+  book.styles = StylesUsed::In(book.text);
+  plotter.PlotOnPage(PageSide::kLeft, 0, 1);
+  const double plain = boxes.boxes[0].char_width;
+  EXPECT_EQ(metrics.Width(false, false, 'a'), plain);
+  for (const auto& [bold, italic] : {std::pair{true, false}, {false, true}, {true, true}}) {
+    EXPECT_EQ(metrics.Width(bold, italic, 'a'), 0) << bold << italic;
+  }
+
+  book.text += "\x82sloping\x83";
+  book.styles = StylesUsed::In(book.text);
+  plotter.PlotOnPage(PageSide::kLeft, 0, 1);
+  EXPECT_EQ(metrics.Width(false, true, 'a'), plain + boxes.boxes[0].italic_extra);
+  EXPECT_EQ(metrics.Width(true, false, 'a'), 0);
+  EXPECT_EQ(metrics.Width(true, true, 'a'), 0);
+}
+
 }  // namespace
 }  // namespace vireo
