@@ -29,6 +29,8 @@ BookCanvasWidget::BookCanvasWidget(QWidget* parent)
       lstLanguages_(new QListWidget(this)),
       lblLanguages_(new QLabel(Translatable("Language:"), this)) {
   setObjectName("BookCanvas");
+  // paintEvent covers every pixel, so nothing is painted underneath first.
+  setAttribute(Qt::WA_OpaquePaintEvent);
   lstLanguages_->setObjectName("lstLanguages");
   lstLanguages_->addItem("English");
   lstLanguages_->setFixedSize(110, 36);
