@@ -1,5 +1,6 @@
 #include "render/title_page.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "fake_surface.h"
@@ -10,19 +11,16 @@ namespace vireo {
 namespace {
 
 using test::FakeSurface;
+using ::testing::Contains;
+using ::testing::Not;
 
 constexpr uint32_t kInk = 0x202020;
 
-const FakeSurface::Run* FindRun(const FakeSurface& surface, std::string_view text) {
-  for (const auto& run : surface.runs) {
-    if (run.text == text) return &run;
-  }
-  return nullptr;
-}
-
 // The run that drew text; a failure and an empty run when there is none.
 FakeSurface::Run RunOf(const FakeSurface& surface, std::string_view text) {
-  if (const auto* run = FindRun(surface, text)) return *run;
+  for (const auto& run : surface.runs) {
+    if (run.text == text) return run;
+  }
   ADD_FAILURE() << "not drawn: " << text;
   return {};
 }
@@ -75,11 +73,11 @@ TEST_F(TitlePageTest, DoublePageShowsWelcomeOnTheRightAndTranslatedHintsOnTheLef
   left.DrawText("previous page");
   DrawTitlePage(right, left, kInk, 1500, 1200);
   EXPECT_EQ(right.runs.front().text, "Welcome to Vireo!") << "the welcome is not translated";
-  EXPECT_EQ(FindRun(right, "Pistas:"), nullptr);
+  EXPECT_THAT(right.RunTexts(), Not(Contains("Pistas:")));
   EXPECT_EQ(left.clears, 1);
   EXPECT_EQ(left.runs.front().text, "Pistas:");
   RunOf(left, "Pulse LOAD para cargar");
-  EXPECT_EQ(FindRun(left, "Welcome to Vireo!"), nullptr);
+  EXPECT_THAT(left.RunTexts(), Not(Contains("Welcome to Vireo!")));
 }
 
 }  // namespace
