@@ -57,26 +57,24 @@ TEST(HonestPacking, CharactersOutsideWindows1252AreTransliteratedOrShownAsQuesti
   EXPECT_THAT(ReplacementReport(tally.Kinds()),
               ElementsAre("3 \xC3\x97 \xCE\xA9 had no place in the book and show as ?",
                           "1 \xC3\x97 \xD0\x96 had no place in the book and show as ?"));
-  // Big-endian UTF-16 with its byte order mark; little-endian is the create-ebook dialog's test.
-  const std::string big_endian = std::string("\xFE\xFF\0H\0\xE9\x04\x16", 8);
-  EXPECT_EQ(DetectEncoding(big_endian), TextEncoding::kUtf16BigEndian);
   // Letters lose only the accents Windows-1252 lacks; a combining accent joins its letter
   // where Windows-1252 has the pair; ligatures, dashes and spaces get their plain forms.
-  const std::pair<std::string, std::string> cases[] = {
-      {"\xC5\x81\xC3\xB3"
-       "d\xC5\xBA, Erd\xC5\x91s, Cafe\xCC\x81, z\xCC\x81",
-       "L\xC3\xB3"
-       "dz, Erdos, Caf\xC3\xA9, z"},
-      {"\xEF\xAC\x81nal \xE2\x80\x90 a\xE2\x80\x89"
-       "b \xE2\x88\x92"
-       "1",
-       "final - a b -1"},
-      {"\xEF\xBB\xBF"
-       "a\xC2\x85",
-       "a?"},  // a C1 control
-      {big_endian, "H\xC3\xA9?"},
-  };
-  for (const auto& [input, shown] : cases) EXPECT_EQ(ReadBack(input), shown) << shown;
+  EXPECT_EQ(ReadBack("\xC5\x81\xC3\xB3"
+                     "d\xC5\xBA, Erd\xC5\x91s, Cafe\xCC\x81, z\xCC\x81"),
+            "L\xC3\xB3"
+            "dz, Erdos, Caf\xC3\xA9, z");
+  EXPECT_EQ(ReadBack("\xEF\xAC\x81nal \xE2\x80\x90 a\xE2\x80\x89"
+                     "b \xE2\x88\x92"
+                     "1"),
+            "final - a b -1");
+  EXPECT_EQ(ReadBack(std::string("\xEF\xBB\xBF") + "a\xC2\x85"), "a?") << "a C1 control";
+}
+
+// Little-endian UTF-16 is the create-ebook dialog's test.
+TEST(HonestPacking, BigEndianUtf16WithAByteOrderMarkIsRead) {
+  const std::string big = std::string("\xFE\xFF", 2) + std::string("\0H\0\xE9\x04\x16", 6);
+  EXPECT_EQ(DetectEncoding(big), TextEncoding::kUtf16BigEndian);
+  EXPECT_EQ(ReadBack(big), "H\xC3\xA9?");
 }
 
 // Refusing to write over the reader's open book is the create-ebook dialog's test.
