@@ -4,6 +4,8 @@
 #include <random>
 #include <sstream>
 
+#include "support/logging.h"
+
 namespace vireo::test {
 
 TempFolder::TempFolder() {
@@ -31,5 +33,18 @@ void WriteFile(const std::string& path, const std::string& content) {
 }
 
 std::string BinFolder() { return VIREO_BIN_DIR; }
+
+LogCapture::LogCapture() {
+  SetLogFolder(folder_.str());
+  ClearActions();
+}
+
+LogCapture::~LogCapture() { SetLogFolder(""); }
+
+std::vector<std::string> LogCapture::Entries() {
+  std::vector<std::string> entries;
+  for (int i = 1; i <= Actions().position; ++i) entries.push_back(Actions().text[i]);
+  return entries;
+}
 
 }  // namespace vireo::test

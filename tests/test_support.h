@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 namespace vireo::test {
 
@@ -27,5 +28,19 @@ inline bool FileExists(const std::string& path) { return std::filesystem::exists
 
 // The folder with the built programs and the helper library.
 std::string BinFolder();
+
+// Logs into a fresh temporary folder (also there for the test's own files) for the length of a
+// test, starting from no recorded actions.
+class LogCapture {
+ public:
+  LogCapture();
+  ~LogCapture();
+  const TempFolder& folder() const { return folder_; }
+  // The recorded actions, oldest first.
+  static std::vector<std::string> Entries();
+
+ private:
+  TempFolder folder_;
+};
 
 }  // namespace vireo::test

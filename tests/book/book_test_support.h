@@ -1,14 +1,10 @@
 #pragma once
 
-// Helpers for the book tests: hand-built packed bodies and a look at the log.
+// Helpers for the book tests: hand-built packed bodies.
 
 #include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
-
-#include "support/logging.h"
-#include "test_support.h"
 
 namespace vireo::test {
 
@@ -34,23 +30,5 @@ inline std::string HandPackedBody(const std::string& first_half, const std::stri
   return HandScramble(std::string(2000, 'x') + second_half + details + first_half +
                       std::string(2000, 'y'));
 }
-
-// Logs into a fresh temporary folder for the length of a test; clears the actions.
-class LogCapture {
- public:
-  LogCapture() {
-    SetLogFolder(folder_.str());
-    ClearActions();
-  }
-  ~LogCapture() { SetLogFolder(""); }
-  static std::vector<std::string> Entries() {
-    std::vector<std::string> entries;
-    for (int i = 1; i <= Actions().position; ++i) entries.push_back(Actions().text[i]);
-    return entries;
-  }
-
- private:
-  TempFolder folder_;
-};
 
 }  // namespace vireo::test

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "book/book_test_support.h"
+#include "support/logging.h"
 #include "test_support.h"
 
 namespace vireo {
@@ -23,50 +24,51 @@ clsBIN Recorded(std::vector<std::string>& events) {
 // Author, two fields, title and one more, each behind the section mark 169.
 const std::string kDetails = "\251Ann\251F2\251Tit\251F4\251";
 
-TEST(clsBIN, ADetailBlockWithoutItsLastFieldLeavesTheTitleEmpty) {
-  LogCapture log;
-  clsBIN bin;
-  bin.set_header_block("header");
-  bin.set_body(HandPackedBody("Hello", "World", kDetails.substr(0, 8)));
-  bin.ConvertLoadedBRN();
-  EXPECT_EQ(bin.result_text(), "HelloWorld");
-  EXPECT_EQ(bin.details().author, "Ann");
-  EXPECT_EQ(bin.details().title, "");
-  EXPECT_EQ(bin.header_block(), "");
-  EXPECT_EQ(LogCapture::Entries(),
-            std::vector<std::string>{
-                "Invalid procedure call or argument in sub decodedetails(5) of module clsBIN"});
+// Each conversion logs under clsBIN; the log starts afresh.
+class ClsBinTest : public ::testing::Test {
+ protected:
+  LogCapture log_;
+  clsBIN bin_;
+};
+
+const std::string kDetailsFault =
+    "Invalid procedure call or argument in sub decodedetails(5) of module clsBIN";
+
+TEST_F(ClsBinTest, ADetailBlockWithoutItsLastFieldLeavesTheTitleEmpty) {
+  bin_.set_header_block("header");
+  bin_.set_body(HandPackedBody("Hello", "World", kDetails.substr(0, 8)));
+  bin_.ConvertLoadedBRN();
+  EXPECT_EQ(bin_.result_text(), "HelloWorld");
+  EXPECT_EQ(bin_.details().author, "Ann");
+  EXPECT_EQ(bin_.details().title, "");
+  EXPECT_EQ(bin_.header_block(), "");
+  EXPECT_EQ(LogCapture::Entries(), std::vector<std::string>{kDetailsFault});
 }
 
-TEST(clsBIN, WordCodesExpandWithTheirQuirks) {
-  // the, blank, "r" (the full stop), ".", "f0", "f" (the blank), "f9", tab,
-  // "er", "Th", and the placeholder 200 after a blank.
-  const std::string stored_text = "\xCA\xE7.\xE9\xB3 \xBC\xE0\xE6\xEC\xE7\xC8z";
-  clsBIN bin;
-  bin.set_body(HandPackedBody(stored_text, "", kDetails));
-  bin.ConvertLoadedBRN();
-  EXPECT_EQ(bin.result_text(), "the r.f0ff9   erTh \n z");
-}
-
-TEST(clsBIN, AShortBodyLeavesNothingAndLogsTheMissingDetails) {
-  LogCapture log;
-  clsBIN bin;
-  bin.set_body(HandScramble(std::string(3999, 'q')));
-  bin.ConvertLoadedBRN();
-  EXPECT_EQ(bin.result_text(), "");
+TEST_F(ClsBinTest, AShortBodyLeavesNothingAndLogsTheMissingDetails) {
+  bin_.set_body(HandScramble(std::string(3999, 'q')));
+  bin_.ConvertLoadedBRN();
+  EXPECT_EQ(bin_.result_text(), "");
   EXPECT_EQ(LogCapture::Entries(),
             (std::vector<std::string>{
                 "Invalid procedure call or argument in sub brnpostextract(5) of module clsBIN",
-                "Invalid procedure call or argument in sub decodedetails(5) of module clsBIN"}));
+                kDetailsFault}));
 }
 
-TEST(clsBIN, AnOverflowInDescramblingLeavesTheRestAsItIs) {
-  LogCapture log;
-  clsBIN bin;
+TEST_F(ClsBinTest, WordCodesExpandWithTheirQuirks) {
+  // the, blank, "r" (the full stop), ".", "f0", "f" (the blank), "f9", tab,
+  // "er", "Th", and the placeholder 200 after a blank.
+  const std::string stored_text = "\xCA\xE7.\xE9\xB3 \xBC\xE0\xE6\xEC\xE7\xC8z";
+  bin_.set_body(HandPackedBody(stored_text, "", kDetails));
+  bin_.ConvertLoadedBRN();
+  EXPECT_EQ(bin_.result_text(), "the r.f0ff9   erTh \n z");
+}
+
+TEST_F(ClsBinTest, AnOverflowInDescramblingLeavesTheRestAsItIs) {
   // Positions 1 and 2 decode (16 - 2, 16 + 3); position 3 would be 1 - 2.
-  bin.set_body(std::string("\x10\x10\x01\x10", 4));
-  bin.DecodeBin();
-  EXPECT_EQ(bin.body(), std::string("\x0E\x13\x01\x10", 4));
+  bin_.set_body(std::string("\x10\x10\x01\x10", 4));
+  bin_.DecodeBin();
+  EXPECT_EQ(bin_.body(), std::string("\x0E\x13\x01\x10", 4));
   EXPECT_EQ(LogCapture::Entries(),
             std::vector<std::string>{"Overflow in sub decodebin(6) of module clsBIN"});
 }
@@ -80,10 +82,8 @@ std::string BflHeader(const std::string& details) {
 }
 
 // Packed books (.brn) are read in the packing and round-trip tests.
-TEST(clsBIN, ReadsBflFiles) {
-  LogCapture log;
-  test::TempFolder folder;
-  const std::string bfl = folder.File("book.bfl");
+TEST_F(ClsBinTest, ReadsBflFilesButNotAHeaderWithAByteBelowFifty) {
+  const std::string bfl = log_.folder().File("book.bfl");
   test::WriteFile(bfl, BflHeader(kDetails) + HandScramble("Plain"));
   std::vector<std::string> events;
   clsBIN bfl_run = Recorded(events);
@@ -94,16 +94,13 @@ TEST(clsBIN, ReadsBflFiles) {
   EXPECT_EQ(events.front(), "Reading file 10/100");
   EXPECT_EQ(events.back(), "Finishing 90/100");
   EXPECT_TRUE(LogCapture::Entries().empty());
-}
 
-TEST(clsBIN, ABflHeaderBelowFiftyIsAnOverflowAndStaysInTheBody) {
-  LogCapture log;
+  // A header byte below 50 is an overflow, and the header stays in the body.
   std::string header = BflHeader(kDetails);
   header[500] = '\x10';
-  clsBIN bin;
-  bin.set_body(header);
-  EXPECT_FALSE(bin.CheckForBflHeader());
-  EXPECT_EQ(bin.body(), header);
+  bin_.set_body(header);
+  EXPECT_FALSE(bin_.CheckForBflHeader());
+  EXPECT_EQ(bin_.body(), header);
   EXPECT_EQ(LogCapture::Entries(),
             std::vector<std::string>{"Overflow in function checkforbflheader(6) of module clsBIN"});
 }

@@ -69,7 +69,7 @@ TEST(ImageStoreRewriting, ReferencesBecomeNumberedPlaceholders) {
             "<p>[IMG=0][IMG SRC='a.png']");
 }
 
-TEST(ImageStore, NumbersFollowThePlaceholdersAndBadFilesKeepTheirs) {
+TEST(ImageStore, NumbersFollowThePlaceholdersBadFilesKeepTheirsAndGoneOnesAreSkipped) {
   Store store;
   clsNewImages& images = store.images;
   std::string text = "[IMG SRC='fake.png']" + F + "[IMG SRC='gone.png']" + F +
@@ -83,13 +83,9 @@ TEST(ImageStore, NumbersFollowThePlaceholdersAndBadFilesKeepTheirs) {
   EXPECT_EQ(images.Image(3), nullptr);
   images.ClearAll();
   EXPECT_EQ(images.ImageCount(), 0);
-}
-
-TEST(ImageStore, AFileGoneBeforeLoadingIsSkipped) {
-  Store store;
-  store.files.Remove("C.PNG");
-  store.images.LoadImagesFromList({"/book/A.PNG", "C.PNG", "/book/PICS\\B.PNG"});
-  EXPECT_EQ(store.images.ImageCount(), 2);
+  store.files.Remove("C.PNG");  // gone before loading
+  images.LoadImagesFromList({"/book/A.PNG", "C.PNG", "/book/PICS\\B.PNG"});
+  EXPECT_EQ(images.ImageCount(), 2);
 }
 
 TEST(ImageStore, TenThousandReferencesToOnePictureDecodeItOnce) {

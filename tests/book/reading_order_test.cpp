@@ -7,6 +7,8 @@
 #include "book/book_test_support.h"
 #include "book/cls_bin.h"
 #include "book/scrambling.h"
+#include "support/logging.h"
+#include "test_support.h"
 
 namespace vireo {
 namespace {

@@ -1,13 +1,17 @@
 // The linear paginator against the literal one on random texts, tables and
-// geometries: page starts, carried styles, the text, the events and the yields.
+// geometries: page starts, carried styles, the text, the events and the yields;
+// and the block marks that drive its runs of ordinary words against the class
+// table, for every byte.
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <random>
 #include <tuple>
 
 #include "fake_pump.h"
 #include "layout/reindex.h"
+#include "layout/word_run.h"
 #include "literal_paginator.h"
 #include "pagination_fixtures.h"
 
@@ -174,6 +178,19 @@ TEST(ReindexProperties, LinearPaginatorMatchesTheLiteralRules) {
     const Case c = generator.AnyCase();
     ExpectSame(RunFast(c), RunLiteral(c), i);
     if (HasFatalFailure()) return;
+  }
+}
+
+TEST(WordRun, BlockMarksAgreeWithTheClassTableForEveryByte) {
+  std::array<unsigned char, kRunBlock> block{};
+  for (int base = 0; base < 256; base += kRunBlock) {
+    for (size_t i = 0; i < kRunBlock; ++i) block[i] = static_cast<unsigned char>(base + i);
+    EXPECT_EQ(MarkBlock(block.data()), MarkBlockBytewise(block.data())) << "bytes from " << base;
+  }
+  std::mt19937 random(5);
+  for (int round = 0; round < 2000; ++round) {
+    for (auto& byte : block) byte = static_cast<unsigned char>(random());
+    ASSERT_EQ(MarkBlock(block.data()), MarkBlockBytewise(block.data()));
   }
 }
 

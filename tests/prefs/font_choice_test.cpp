@@ -57,16 +57,7 @@ TEST_F(FontChoiceTest, TheRecommendedListIsScannedOnceAndKeptInTheStore) {
 }
 
 // That Cancel stores nothing is the dialog's test.
-TEST_F(FontChoiceTest, ShowAllConfirmedIsWhereTheNextOpeningStarts) {
-  fonts.names = {"Verdana", "DejaVu Sans"};
-  FontChoice confirmed(fonts, "DejaVu Sans");
-  confirmed.SetShowAll(true);
-  EXPECT_EQ(confirmed.FontList(), fonts.names);
-  EXPECT_EQ(confirmed.OK(), "DejaVu Sans");
-  EXPECT_TRUE(FontChoice(fonts, "").show_all());
-}
-
-TEST_F(FontChoiceTest, ThePreviewNamesAMissingOrUnusableChoice) {
+TEST_F(FontChoiceTest, ThePreviewNamesAMissingOrUnusableChoiceAndShowAllConfirmedIsKept) {
   fonts.names = {"Verdana"};
   FontChoice choice(fonts, "Nowhere Sans");
   EXPECT_EQ(choice.Preview().text, "Invalid font");
@@ -77,6 +68,13 @@ TEST_F(FontChoiceTest, ThePreviewNamesAMissingOrUnusableChoice) {
   EXPECT_EQ(choice.OK(), "");
   choice.Select("Verdana");
   EXPECT_EQ(choice.Preview().font, "Verdana");
+
+  fonts.names = {"Verdana", "DejaVu Sans"};
+  choice.SetShowAll(true);
+  EXPECT_EQ(choice.FontList(), fonts.names);
+  choice.Select("DejaVu Sans");
+  EXPECT_EQ(choice.OK(), "DejaVu Sans");
+  EXPECT_TRUE(FontChoice(fonts, "").show_all()) << "where the next opening starts";
 }
 
 }  // namespace

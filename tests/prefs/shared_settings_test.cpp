@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "support/file_io.h"
-#include "support/logging.h"
 #include "support/runtime_error.h"
 #include "support/text_helpers.h"
 #include "test_support.h"
@@ -18,18 +17,14 @@ namespace {
 
 class SettingsFileTest : public testing::Test {
  protected:
-  void SetUp() override {
-    SetLogFolder(folder_.str());
-    ClearActions();
-  }
   void TearDown() override {
     SetBeforeRenameHook(nullptr);
     SetReadOnlyClearer(nullptr);
-    SetLogFolder("");
   }
   std::string Path() const { return folder_.File("Vireo.ini"); }
 
-  test::TempFolder folder_;
+  test::LogCapture log_;
+  const test::TempFolder& folder_ = log_.folder();
   cSHAREDSettings store_;
 };
 
@@ -116,18 +111,10 @@ TEST_F(SettingsFileTest, RetrieveWithDefaultTreatsZeroAsAbsent) {
   EXPECT_TRUE(store_.RetrieveSetting("Absent").IsEmpty());
 }
 
-TEST_F(SettingsFileTest, AReadOnlyFileIsMadeWritableThenSaved) {
+TEST_F(SettingsFileTest, ASaveInterruptedBeforeItsRenameLeavesTheOldFileAndAReadOnlyOneIsSaved) {
   test::WriteFile(Path(), "OLD,1\r\n");
-  std::filesystem::permissions(Path(), std::filesystem::perms::owner_read);
   store_.StoreSetting("New", 2);
-  store_.SaveSettings(Path());
-  EXPECT_EQ(test::ReadFile(Path()), "NEW,2\r\n");
-}
-
-TEST_F(SettingsFileTest, ASaveInterruptedBeforeItsRenameLeavesTheOldFile) {
-  test::WriteFile(Path(), "OLD,1\r\n");
   SetBeforeRenameHook([] { throw RuntimeError(ErrorNumber::kDiskFull); });
-  store_.StoreSetting("New", 2);
   store_.SaveSettings(Path());
   EXPECT_EQ(test::ReadFile(Path()), "OLD,1\r\n");
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_.path()), {}), 2)
@@ -136,6 +123,11 @@ TEST_F(SettingsFileTest, ASaveInterruptedBeforeItsRenameLeavesTheOldFile) {
                 .find("Unable to write to settings file - possibly read-only? - Disk full in "
                       "SaveSettings"),
             std::string::npos);
+
+  SetBeforeRenameHook(nullptr);
+  std::filesystem::permissions(Path(), std::filesystem::perms::owner_read);
+  store_.SaveSettings(Path());
+  EXPECT_EQ(test::ReadFile(Path()), "NEW,2\r\n");
 }
 
 }  // namespace

@@ -43,16 +43,11 @@ TEST(BookViewLayout, DoublePageWithTheBarHidden) {
   EXPECT_EQ(layout.lines.centre, (TwipsLine{5930, kEdgeLinesTopY, 5930, 7950}));
 }
 
-class PageBordersTest : public ::testing::Test {
- protected:
-  PageBordersTest() { ResetGlobalSettings(); }
-  ~PageBordersTest() override { ResetGlobalSettings(); }
+// The default borders (400, 400, 300) are seen in the page plotter's test.
+TEST(PageBorders, LinesPerPageIsRoundedAndBordersComeFromTheSettings) {
+  ResetGlobalSettings();
   test::FakeSurface page;
   PageTextArea area;
-};
-
-// The default borders (400, 400, 300) are seen in the page plotter's test.
-TEST_F(PageBordersTest, LinesPerPageIsRoundedAndBordersComeFromTheSettings) {
   page.width = 6000;
   page.line_height = 240;          // line gap 16, pitch 256
   page.height = 850 + 10.6 * 256;  // 10.6 pitches of text
@@ -72,6 +67,7 @@ TEST_F(PageBordersTest, LinesPerPageIsRoundedAndBordersComeFromTheSettings) {
   SetPageBorders(page, 10, area);
   EXPECT_EQ(area.text_width, 4500);
   EXPECT_EQ(area.text_height, 8000);
+  ResetGlobalSettings();
 }
 
 TEST(Textures, OnlyThePaperFilesPresentFillTheirSlots) {

@@ -5,16 +5,14 @@
 #include <string>
 #include <vector>
 
-#include "fake_pump.h"
-#include "fake_surface.h"
 #include "render/book_display.h"
-#include "render/page_buffers.h"
+#include "render/fake_page_buffers.h"
 
 namespace vireo::test {
 
 // Page drawing and buffers without a screen: each box holds the page number drawn into it, a
 // width, a left edge, a visibility and a place in its frame's stack.
-class FakeBookDisplay : public BookDisplay, public PageBuffers {
+class FakeBookDisplay : public BookDisplay, public FakePageBuffers {
  public:
   static constexpr int kBlank = 0;
   static constexpr int kTitlePage = -100;
@@ -62,18 +60,7 @@ class FakeBookDisplay : public BookDisplay, public PageBuffers {
     content[kRightPageBox] = kTitlePage;
   }
 
-  void ApplyLayout(const BookViewLayout&) override {}
   double FrameWidth(int) const override { return kFrameWidth; }
-  Surface& Box(int) override { return surface; }
-  void SetBoxBackColour(int, uint32_t) override {}
-  void SetBoxTexture(int, std::optional<int>) override {}
-  bool LoadTexture(int, const std::string&) override { return true; }
-  void RefreshBox(int) override {}
-  void SetLineMarker(int, double, double) override {}
-  TwipsSize LanguageListSize() const override { return {}; }
-  void PlaceLanguageList(const LanguageListPlacement&) override {}
-  void SetLanguageListVisible(bool) override {}
-  void ShowCoverPicture(const Picture*) override {}
   void SetBoxWidth(int box, double twips) override {
     if (twips < 0) ++negative_widths;
     widths[box] = twips;
@@ -88,7 +75,6 @@ class FakeBookDisplay : public BookDisplay, public PageBuffers {
     stack.push_back(box);
   }
 
-  void SetLamp(Lamp lamp) override { lamps.push_back(lamp); }
   void ShowCover() override {
     cover_shown = true;
     events.push_back("show cover");
@@ -120,7 +106,6 @@ class FakeBookDisplay : public BookDisplay, public PageBuffers {
 
   int page_count;
   bool book_loaded = true;
-  FakeSurface surface;
   bool cover_shown = true;
 
   std::array<int, 8> content{};
@@ -131,7 +116,6 @@ class FakeBookDisplay : public BookDisplay, public PageBuffers {
   std::array<std::vector<int>, 2> stacks{{{0, 2}, {1, 3}}};
 
   std::vector<std::string> events;  // "plot side box page", "copy from to", ...
-  std::vector<Lamp> lamps;
   std::vector<double> stretch_widths;
   std::vector<FrameView> views;
   int negative_widths = 0;

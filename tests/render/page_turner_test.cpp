@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "fake_pump.h"
 #include "render/fake_book_display.h"
 #include "render/page_cache.h"
 #include "render/page_turner.h"
@@ -104,12 +105,10 @@ TEST_F(PageCacheTest, DoublePageForwardThenBackCopiesThePreviousSpreadFromTheLow
   EXPECT_EQ(display.CountEvents("copy 4 0"), 1);
   EXPECT_EQ(display.CountEvents("copy 5 1"), 1);
   EXPECT_EQ(display.CountEvents("plot 0 0"), 0);
-  EXPECT_THAT(Actions().text,
-              Contains("DBG: Clearing page 0 in sub wipelefttoright of module frmMain"));
-  EXPECT_THAT(Actions().text,
-              Contains("DBG: Hiding Images on 0 in sub wipelefttoright of module frmMain"));
-  EXPECT_THAT(Actions().text,
-              Contains("DBG: Copying 4 to 0 in sub wipelefttoright of module frmMain"));
+  for (const std::string step : {"Clearing page 0", "Hiding Images on 0", "Copying 4 to 0"}) {
+    EXPECT_THAT(Actions().text,
+                Contains("DBG: " + step + " in sub wipelefttoright of module frmMain"));
+  }
   // The spread just left went into the higher cache, the lower one refilled.
   EXPECT_EQ(Stamps(), (std::vector<int16_t>{1, 2, 5, 6}));
   EXPECT_EQ(display.content[6], 5);

@@ -3,12 +3,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "fake_pump.h"
+#include "app/fake_window.h"
 #include "fake_surface.h"
 #include "layout/font_metrics.h"
 #include "support/logging.h"
 #include "support/runtime_error.h"
-#include "support/user_interaction.h"
 
 namespace vireo {
 namespace {
@@ -132,7 +131,7 @@ TEST_F(PrintPageTest, HighlightsEveryMatchOfTheSearchTermWhateverItsCaseButNotTh
   }
 }
 
-// A printer that has stopped taking drawing, and a person who is told so.
+// A printer that has stopped taking drawing.
 class StoppedPrinter : public FakeSurface {
  public:
   void PaintPicture(const Picture&, double, double, double, double) override {
@@ -140,33 +139,20 @@ class StoppedPrinter : public FakeSurface {
   }
 };
 
-class ToldUser : public UserInteraction {
- public:
-  void ShowMessage(std::string_view text, std::string_view title) override {
-    told.push_back(std::string(title) + ": " + std::string(text));
-  }
-  std::optional<std::string> AskText(std::string_view, std::string_view,
-                                     std::string_view) override {
-    return std::nullopt;
-  }
-  bool AskYesNo(std::string_view, std::string_view, DefaultAnswer) override { return false; }
-  std::vector<std::string> told;
-};
-
 TEST_F(PrintPageTest, PrintsAPictureOnThePrinterAndSaysWhenThePrinterFails) {
-  ToldUser user;
+  test::FakeUser user;
   composer.SetUser(&user);
   const Picture picture{2, 2, std::vector<uint32_t>(4, 0)};
   composer.PrintPictureBox(surface, picture, 120, 450, 600, 300);
   ASSERT_THAT(surface.RunTexts(), ElementsAre("picture 600x300"));
   EXPECT_EQ(surface.runs[0].x, 120);
   EXPECT_EQ(surface.runs[0].y, 450);
-  EXPECT_TRUE(user.told.empty());
+  EXPECT_TRUE(user.messages.empty());
 
   ClearActions();
   StoppedPrinter printer;
   composer.PrintPictureBox(printer, picture, 120, 450, 600, 300);
-  EXPECT_THAT(user.told, ElementsAre("Printer Error!: Printer error"));
+  EXPECT_THAT(user.messages, ElementsAre("Printer error"));  // its title is the e2e test's
   EXPECT_THAT(Actions().text,
               Contains("Printer error in sub printpicturebox(482) of module clsPrintPage"));
 }

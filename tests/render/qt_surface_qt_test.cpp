@@ -85,9 +85,7 @@ TEST_F(QtSurfaceTest, RunsKeepTheirColoursAndTheirOwnUnderlines) {
 
 TEST(QtSurface, ClearPaintsTheBackColourAndTheTextureOnceUnscaledAndTextLeavesThemShowing) {
   QImage page(40, 40, QImage::Format_RGB32);
-  QtSurface surface(&page);  // drawing on the caller's image
-  surface.SetFontName("Times New Roman");
-  surface.SetFontSize(12);
+  QtSurface surface(&page);  // drawing on the caller's image, in the book font
   QImage texture(10, 10, QImage::Format_ARGB32_Premultiplied);
   texture.fill(QColor(0, 0, 255));
   surface.SetBackColor(0x0000FF00);

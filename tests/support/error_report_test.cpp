@@ -11,19 +11,15 @@ namespace {
 TEST(ErrorReport, FileIsMarkedWhereAMailedCopyEndsOnlyPastFourHundredCharacters) {
   const size_t frame = ReportText({}).size();
   ASSERT_LT(frame, kMailBodyLimit);
-  struct Case {
-    size_t length;
-    bool marked;
-  };
-  for (const Case& c : {Case{400, false}, Case{401, true}}) {
+  for (const auto& [length, marked] : {std::pair<size_t, bool>{400, false}, {401, true}}) {
     test::TempFolder folder;
-    const ErrorReport report{std::string(c.length - frame, 'e'), "", ""};
+    const ErrorReport report{std::string(length - frame, 'e'), "", ""};
     const std::string path = WriteReportFile(folder.str(), report);
     EXPECT_EQ(path, folder.File("fulllog.txt"));
     std::string written = test::ReadFile(path);
-    EXPECT_EQ(written.find("*Email"), c.marked ? 401 : std::string::npos);
-    if (c.marked) written.erase(400, kMailTruncationMark.size());
-    EXPECT_EQ(written.size(), c.length) << "nothing else changes";
+    EXPECT_EQ(written.find("*Email"), marked ? 401 : std::string::npos);
+    if (marked) written.erase(400, kMailTruncationMark.size());
+    EXPECT_EQ(written.size(), length) << "nothing else changes";
   }
 }
 

@@ -4,9 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
-#include "support/logging.h"
 #include "support/translation.h"
 #include "test_support.h"
 
@@ -15,16 +12,13 @@ namespace {
 
 class LanguageFilesTest : public testing::Test {
  protected:
-  void SetUp() override { SetLogFolder(folder.str()); }
-  void TearDown() override {
-    SetLanguage({});
-    SetLogFolder("");
-  }
+  void TearDown() override { SetLanguage({}); }
   std::string Write(const std::string& name, const std::string& content) {
     test::WriteFile(folder.File(name), content);
     return folder.File(name);
   }
-  test::TempFolder folder;
+  test::LogCapture log_capture;
+  const test::TempFolder& folder = log_capture.folder();
 };
 
 TEST_F(LanguageFilesTest, AFileWithFaultyLinesLoadsTheRestAndLogsTheFaults) {

@@ -19,20 +19,16 @@ std::time_t FixedTime() {
 
 class LoggingTest : public testing::Test {
  protected:
-  void SetUp() override {
-    SetLogFolder(folder_.str());
-    SetLogClock(FixedTime);
-    ClearActions();
-  }
+  void SetUp() override { SetLogClock(FixedTime); }
   void TearDown() override {
     SetLoggingDisabled(false);
-    SetLogFolder("");
     SetLogClock([] { return std::time(nullptr); });
     ClearActions();
   }
   std::string Log() const { return test::ReadFile(folder_.File("log.txt")); }
 
-  test::TempFolder folder_;
+  test::LogCapture log_;
+  const test::TempFolder& folder_ = log_.folder();
 };
 
 TEST_F(LoggingTest, NewFileStartsWithTwoHeaderLinesAndLinesAreStampedToColumn15) {
@@ -62,13 +58,7 @@ TEST_F(LoggingTest, DisabledOrUnwritableLoggingStaysQuiet) {
   EXPECT_NO_THROW(ListActions());
 }
 
-TEST_F(LoggingTest, EntriesNameTheirProcedureAndModuleOnlyWhenGiven) {
-  LogProc("plain", "", "");
-  LogDebug("Loaded 3 images", "", "clsNewImages");
-  EXPECT_EQ(Actions().text[1], "plain");
-  EXPECT_EQ(Actions().text[2], "DBG: Loaded 3 images of module clsNewImages");
-}
-
+// Entries name their procedure and module only when given.
 TEST_F(LoggingTest, The41stEntryListsThePrevious40AndStartsAgainAtSlot1) {
   for (int i = 1; i <= 41; ++i) LogProc("entry " + std::to_string(i), "", "");
   const std::string log = Log();
@@ -80,6 +70,8 @@ TEST_F(LoggingTest, The41stEntryListsThePrevious40AndStartsAgainAtSlot1) {
   EXPECT_EQ(log.find("entry 41"), std::string::npos);
   EXPECT_EQ(Actions().position, 1);
   EXPECT_EQ(Actions().text[1], "entry 41");
+  LogDebug("Loaded 3 images", "", "clsNewImages");
+  EXPECT_EQ(Actions().text[2], "DBG: Loaded 3 images of module clsNewImages");
 }
 
 TEST_F(LoggingTest, AnEntryRepeatedIsRecordedThreeTimesAndCountedOnceInTheNextListing) {
