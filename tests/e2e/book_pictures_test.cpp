@@ -1,50 +1,36 @@
-// An ebook that carries its pictures and cover, opened by the real reader
-// from a folder that holds no picture files.
+// An ebook that carries its pictures and cover, made by the tool and by the Create ebook
+// dialog, opened by the real reader from a folder that holds no picture files.
 
 #include <gtest/gtest.h>
 
-#include <cstdint>
-#include <sstream>
+#include <string>
 
 #include "e2e/program_runner.h"
 
 namespace vireo {
 namespace {
 
-struct Rgb {
-  uint8_t r, g, b;
-};
+// Colours as the three bytes of a binary PPM pixel.
+const std::string kPictureColour("\xFA\x00\xFA", 3);
+const std::string kCoverColour("\x00\xBE\xC8", 3);
 
 // A binary PPM picture of one colour.
-std::string SolidPpm(int width, int height, Rgb colour) {
+std::string SolidPpm(int width, int height, const std::string& colour) {
   std::string ppm = "P6\n" + std::to_string(width) + " " + std::to_string(height) + "\n255\n";
-  for (int pixel = 0; pixel < width * height; ++pixel)
-    ppm += {char(colour.r), char(colour.g), char(colour.b)};
+  for (int pixel = 0; pixel < width * height; ++pixel) ppm += colour;
   return ppm;
 }
 
-// Pixels of a binary PPM (P6) of the given colour.
-int CountPixels(const std::string& ppm, Rgb colour) {
-  std::istringstream in(ppm);
-  std::string magic;
-  int width = 0, height = 0, maximum = 0;
-  in >> magic >> width >> height >> maximum;
-  in.get();
-  const size_t start = static_cast<size_t>(in.tellg());
+// Pixels of the colour in a binary PPM whose header is three lines.
+int CountPixels(const std::string& ppm, const std::string& colour) {
+  size_t at = 0;
+  for (int line = 0; line < 3; ++line) at = ppm.find('\n', at) + 1;
   int count = 0;
-  for (size_t at = start; at + 2 < ppm.size(); at += 3) {
-    if (uint8_t(ppm[at]) == colour.r && uint8_t(ppm[at + 1]) == colour.g &&
-        uint8_t(ppm[at + 2]) == colour.b) {
-      ++count;
-    }
-  }
-  return magic == "P6" ? count : -1;
+  for (; at + 3 <= ppm.size(); at += 3) count += ppm.compare(at, 3, colour) == 0 ? 1 : 0;
+  return count;
 }
 
-constexpr Rgb kPictureColour{250, 0, 250};
-constexpr Rgb kCoverColour{0, 190, 200};
-
-TEST(BookPictures, PackedPicturesAndCoverShowWithoutFilesBesideTheBook) {
+TEST(BookPictures, TheDialogPacksAsTheToolAndPackedPicturesShowWithoutFilesBesideTheBook) {
   test::ProgramFolder program;
   test::TempFolder maker;
   std::filesystem::create_directory(maker.path() / "pics");
@@ -57,11 +43,17 @@ TEST(BookPictures, PackedPicturesAndCoverShowWithoutFilesBesideTheBook) {
   }
   test::WriteFile(maker.File("book.txt"), text);
   const auto made =
-      test::Run(program.Path("vireo-tool") + " make " + maker.File("book.txt") + " -o " +
-                    program.Path("Book") + " --stub " + program.Path("Vireo") + " --images " +
-                    maker.str() + " --cover " + maker.File("cover.ppm"),
-                {}, maker);
+      test::Tool(program, "make " + maker.File("book.txt") + " -o " + program.Path("Book") +
+                              " --stub " + program.Path("Vireo") + " --images " + maker.str() +
+                              " --cover " + maker.File("cover.ppm"));
   ASSERT_EQ(made.status, 0) << made.err;
+  const auto dialog = test::StartAndQuit(
+      program, "Vireo",
+      {"VIREO_MENU=mnuEbook", "VIREO_EBOOK_TEXT=" + maker.File("book.txt"),
+       "VIREO_EBOOK_OUT=" + program.Path("Made"), "VIREO_EBOOK_IMAGES=" + maker.str(),
+       "VIREO_EBOOK_COVER=" + maker.File("cover.ppm")});
+  ASSERT_EQ(dialog.status, 0) << dialog.err;
+  EXPECT_TRUE(test::ReadFile(program.Path("Made")) == test::ReadFile(program.Path("Book")));
 
   // Hiding the cover on later spreads is tested through the fake window.
   const std::string picture = program.Path("window.ppm");
@@ -73,36 +65,9 @@ TEST(BookPictures, PackedPicturesAndCoverShowWithoutFilesBesideTheBook) {
   EXPECT_GE(CountPixels(ppm, kPictureColour), 60 * 40);
   EXPECT_GT(CountPixels(ppm, kCoverColour), 1000);
   // The tool shows the text as the reader holds it: every reference numbered.
-  const std::string held =
-      test::Run(program.Path("vireo-tool") + " text " + program.Path("Book"), {}, maker).out;
+  const std::string held = test::Tool(program, "text " + program.Path("Book")).out;
   EXPECT_NE(held.find("[IMG=59]"), std::string::npos);
   EXPECT_EQ(held.find("SRC"), std::string::npos);
-}
-
-TEST(BookPictures, TheCreateEbookDialogPacksTheSampleTextWithItsPicturesAsTheToolDoes) {
-  test::ProgramFolder program;
-  const std::string sample = test::BinFolder() + "/samples/birdsong";
-  const auto made = test::StartAndQuit(
-      program, "Vireo",
-      {"VIREO_MENU=mnuEbook", "VIREO_EBOOK_TEXT=" + sample + "/birdsong.txt",
-       "VIREO_EBOOK_OUT=" + program.Path("Made"), "VIREO_EBOOK_IMAGES=" + sample + "/pictures",
-       "VIREO_EBOOK_COVER=" + sample + "/pictures/cover.png"});
-  ASSERT_EQ(made.status, 0) << made.err;
-  // The book finds both pictures though its folder holds none.
-  const std::string held =
-      test::Run(program.Path("vireo-tool") + " text " + program.Path("Made"), {}, program.folder())
-          .out;
-  EXPECT_NE(held.find("[IMG=0]"), std::string::npos) << held.substr(0, 400);
-  EXPECT_NE(held.find("[IMG=1]"), std::string::npos);
-  EXPECT_EQ(held.find("SRC"), std::string::npos);
-  // Pictures and cover are packed exactly as the tool packs them.
-  const auto tool = test::Run(program.Path("vireo-tool") + " make " + sample + "/birdsong.txt -o " +
-                                  program.Path("Tool") + " --stub " + program.Path("Vireo") +
-                                  " --title birdsong --images " + sample + "/pictures --cover " +
-                                  sample + "/pictures/cover.png",
-                              {}, program.folder());
-  ASSERT_EQ(tool.status, 0) << tool.err;
-  EXPECT_TRUE(test::ReadFile(program.Path("Made")) == test::ReadFile(program.Path("Tool")));
 }
 
 }  // namespace
