@@ -237,17 +237,14 @@ TEST(ReaderLogic, ANewTermIsShownInPlaceAndFindMovesBetweenMatchesWhateverTheirC
   EXPECT_EQ(reader.logic.current_page(), first);
 }
 
-TEST(ReaderLogic, DeletingTheOpenBookErasesItsFileOnlyWhenConfirmed) {
+// A No keeps the file and the book: the real window's dangerous-question test.
+TEST(ReaderLogic, DeletingTheOpenBookConfirmedErasesItsFileAndClosesIt) {
   FakeReader reader(test::NumberedProse(50), kInstant);
   reader.Start();
+  reader.user.yes = true;
   reader.logic.commands().mnuErasefile_Click();
   EXPECT_EQ(reader.user.messages.back(),
             "Do you really want to erase " + reader.book_path + " from your hard disk?");
-  EXPECT_TRUE(test::FileExists(reader.book_path));
-  EXPECT_TRUE(reader.logic.book_pages().loaded);
-
-  reader.user.yes = true;
-  reader.logic.commands().mnuErasefile_Click();
   EXPECT_FALSE(test::FileExists(reader.book_path));
   EXPECT_FALSE(reader.logic.book_pages().loaded);
   EXPECT_EQ(reader.view.caption, "Vireo");
@@ -272,6 +269,43 @@ TEST(ReaderLogic, ABookLoadsWithItsStepsInTheLogAndADroppedOneWithItsProgressAft
   EXPECT_EQ(reader.view.caption, "Second.txt");
   EXPECT_THAT(reader.view.progress_shown, testing::Contains(HasSubstr("%")));
   EXPECT_EQ(reader.view.progress_shown.back(), "");  // taken away when done
+}
+
+// One short paragraph per line, each line one word: a page of few lines
+// holds only a few bytes of text.
+std::string ManyShortLines(int lines) {
+  std::string text;
+  text.reserve(static_cast<size_t>(lines) * 5);
+  for (int line = 0; line < lines; ++line) text += "a\r\n\r\n";
+  return text;
+}
+
+// More pages than 16-bit page numbers reach: the overflow is logged, the reader says how much
+// can be shown, and the pages that fit can be read to the last one without the turns sticking.
+TEST(PageLimit, PagesBeyondSixteenBitsAreExplainedAndTheRestStaysReadable) {
+  FakeReader reader(ManyShortLines(700'000), std::string("FontSize,48\r\n") + kInstant);
+  reader.Start();
+  const int32_t last = BookPages::kLastShowablePage;
+  ASSERT_GT(reader.logic.pages().count, last);
+  EXPECT_THAT(
+      Actions().text,
+      testing::Contains(testing::StartsWith("Overflow in sub reindexfile(6) of module frmMain")));
+  ASSERT_EQ(reader.user.messages.size(), 1u);
+  const std::string& message = reader.user.messages.front();
+  EXPECT_THAT(message, HasSubstr(std::to_string(reader.logic.pages().count) + " pages"));
+  EXPECT_THAT(message, HasSubstr("only the first " + std::to_string(last) + " ("));
+  EXPECT_THAT(message, HasSubstr("smaller font"));
+
+  reader.logic.commands().Form_KeyUp(vk::kEnd, ShiftKey::kUp);
+  EXPECT_EQ(reader.logic.current_page(), last);
+  EXPECT_THAT(reader.buffers.Text(kLeftPageBox), HasSubstr("a"));
+  ClearActions();
+  for (int turn = 0; turn < 3; ++turn) {
+    reader.logic.commands().Form_KeyUp(vk::kSpace, ShiftKey::kUp);
+  }
+  EXPECT_EQ(Actions().position, 0) << Actions().text[1];
+  reader.logic.commands().Form_KeyUp(vk::kHome, ShiftKey::kUp);
+  EXPECT_EQ(reader.logic.current_page(), 2) << "the turns did not stick";
 }
 
 }  // namespace
