@@ -119,6 +119,15 @@ class FakeReader : public ReaderFolder {
   frmMain logic{view, buffers, user, pump, ProgramLocation{folder.str(), book_path}};
 };
 
+// A FakeReader whose start-up has run.
+class StartedReader : public FakeReader {
+ public:
+  explicit StartedReader(const std::string& text, const std::string& settings = "")
+      : FakeReader(text, settings) {
+    Start();
+  }
+};
+
 // Whether the book was paginated while action ran.
 inline bool Repaginates(FakeReader& reader, const std::function<void()>& action) {
   bool seen = false;
