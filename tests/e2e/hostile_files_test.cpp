@@ -19,11 +19,10 @@ using testing::Not;
 
 std::vector<std::string> Lines(const std::string& content) {
   std::vector<std::string> lines;
-  size_t start = 0;
-  for (size_t end; (end = content.find("\r\n", start)) != std::string::npos; start = end + 2) {
+  for (size_t start = 0, end; start < content.size(); start = end + 2) {
+    end = std::min(content.find("\r\n", start), content.size());
     lines.push_back(content.substr(start, end - start));
   }
-  if (start < content.size()) lines.push_back(content.substr(start));
   return lines;
 }
 
