@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <functional>
+#include <utility>
 
 #include "app/fake_window.h"
 
@@ -77,19 +79,21 @@ TEST(BookPictures, TheCoverShowsOverTheFirstSpreadOnly) {
   reader.Start();
   ASSERT_NE(reader.buffers.cover, nullptr);
   EXPECT_EQ(reader.buffers.cover->width, 40);
-  reader.logic.spread().NextPage();
-  EXPECT_EQ(reader.buffers.cover, nullptr);
-  reader.logic.spread().NextPage();
-  reader.logic.spread().PreviousPage();
-  EXPECT_EQ(reader.buffers.cover, nullptr);
-  reader.logic.spread().PreviousPage();
-  EXPECT_NE(reader.buffers.cover, nullptr);
-  reader.logic.spread().ShowPage(7);
-  EXPECT_EQ(reader.buffers.cover, nullptr);
-  reader.logic.spread().ShowPage(1);
-  ASSERT_NE(reader.buffers.cover, nullptr);
-  reader.logic.book().CloseBook();
-  EXPECT_EQ(reader.buffers.cover, nullptr);
+  BookSpread& spread = reader.logic.spread();
+  const std::pair<std::function<void()>, bool> steps[] = {
+      // the step, and the cover after it
+      {[&] { spread.NextPage(); }, false},
+      {[&] { spread.NextPage(); }, false},
+      {[&] { spread.PreviousPage(); }, false},
+      {[&] { spread.PreviousPage(); }, true},
+      {[&] { spread.ShowPage(7); }, false},
+      {[&] { spread.ShowPage(1); }, true},
+      {[&] { reader.logic.book().CloseBook(); }, false},
+  };
+  for (size_t step = 0; step < std::size(steps); ++step) {
+    steps[step].first();
+    EXPECT_EQ(reader.buffers.cover != nullptr, steps[step].second) << "after step " << step;
+  }
 }
 
 }  // namespace

@@ -41,11 +41,18 @@ TEST(SuggestDetails, FromLabelledOrByLinesElseFromTheFileName) {
   }
 }
 
-TEST(EbookMakerForm, OutputAndPicturesFollowTheTextAndTheFormAndAreCheckedOnlyForAnEbook) {
+// A form run from a reader in the folder, whose open book is "Book"; the books it offers to
+// open are kept.
+class EbookMakerFormTest : public testing::Test {
+ protected:
   test::TempFolder folder;
   test::FakeUser user;
-  EbookMakerForm form(
-      user, [](const std::string&) {}, "/opt/Vireo", "");
+  std::vector<std::string> opened;
+  EbookMakerForm form{user, [this](const std::string& path) { opened.push_back(path); },
+                      folder.File("Vireo"), folder.File("Book")};
+};
+
+TEST_F(EbookMakerFormTest, OutputAndPicturesFollowTheTextAndTheFormAndAreCheckedOnlyForAnEbook) {
   form.ChooseText(folder.File("missing.txt"));
   EXPECT_EQ(user.messages.size(), 1u) << "an unreadable text is said so";
   EXPECT_EQ(form.Problem(), "Choose the text file first.");
@@ -83,12 +90,8 @@ TEST(EbookMakerForm, OutputAndPicturesFollowTheTextAndTheFormAndAreCheckedOnlyFo
   }
 }
 
-TEST(EbookMakerForm, TheChooseButtonsAskTheCommonDialogsAndACancelKeepsTheField) {
-  test::TempFolder folder;
-  test::FakeUser user;
+TEST_F(EbookMakerFormTest, TheChooseButtonsAskTheCommonDialogsAndACancelKeepsTheField) {
   test::FakeServices dialogs;
-  EbookMakerForm form(
-      user, [](const std::string&) {}, "/opt/Vireo", "");
   test::WriteFile(folder.File("tale.txt"), "Title: A Tale\nMore.");
   dialogs.open_answer = FileChoice{folder.File("tale.txt")};
   form.PickText(dialogs);
@@ -112,13 +115,7 @@ TEST(EbookMakerForm, TheChooseButtonsAskTheCommonDialogsAndACancelKeepsTheField)
 }
 
 // The dialog itself is run by the real program (e2e book pictures test).
-TEST(EbookMakerForm, AMadeBookIsReportedAndOfferedButNeverWrittenOverTheProgramOrTheOpenBook) {
-  test::TempFolder folder;
-  test::FakeUser user;
-  std::vector<std::string> opened;
-  EbookMakerForm form(
-      user, [&](const std::string& path) { opened.push_back(path); }, folder.File("Vireo"),
-      folder.File("Book"));
+TEST_F(EbookMakerFormTest, AMadeBookIsReportedAndOfferedButNeverWrittenOverTheProgramOrItsBook) {
   test::WriteFile(folder.File("small.txt"), SmallBookUtf16());
   form.ChooseText(folder.File("small.txt"));
   EXPECT_EQ(form.encoding_name(), "UTF-16 (little-endian)");

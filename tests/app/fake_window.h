@@ -80,32 +80,52 @@ inline std::string NumberedProse(int paragraphs) {
   return text;
 }
 
-// The main window's logic over the fakes, in a program folder of its own holding
-// the helper library, the settings and an ebook (the "executable").
-class FakeReader {
+// A program folder holding an ebook of `text` (the "executable") and, unless empty, the
+// settings file; the settings and the actions list start afresh and file types register
+// inside the folder. The log and the settings are let go with it.
+class ReaderFolder {
  public:
-  explicit FakeReader(const std::string& text, const std::string& settings = "") {
+  ReaderFolder(const std::string& text, const std::string& settings) {
     ResetGlobalSettings();
     ClearActions();
-    std::filesystem::copy_file(std::filesystem::path(BinFolder()) / "libvHtml.so",
-                               folder.path() / "libvHtml.so");
     setenv("XDG_DATA_HOME", folder.File("xdg").c_str(), 1);
     if (!settings.empty()) WriteFile(folder.File("Vireo.ini"), settings);
     WriteEbook(book_path, text);
   }
-  ~FakeReader() {
+  ~ReaderFolder() {
     SetLogFolder("");
     ResetGlobalSettings();
   }
-  void Start() { ASSERT_TRUE(logic.lifecycle().Form_Load()); }
 
   TempFolder folder;
   const std::string book_path = folder.File("Book");
+};
+
+// The main window's logic over the fakes, in a reader folder that also holds the helper
+// library.
+class FakeReader : public ReaderFolder {
+ public:
+  explicit FakeReader(const std::string& text, const std::string& settings = "")
+      : ReaderFolder(text, settings) {
+    std::filesystem::copy_file(std::filesystem::path(BinFolder()) / "libvHtml.so",
+                               folder.path() / "libvHtml.so");
+  }
+  void Start() { ASSERT_TRUE(logic.lifecycle().Form_Load()); }
+
   FakeWindowView view;
   FakePageBuffers buffers;
   FakeUser user;
   RecordingPump pump;
   frmMain logic{view, buffers, user, pump, ProgramLocation{folder.str(), book_path}};
+};
+
+// A FakeReader whose start-up has run.
+class StartedReader : public FakeReader {
+ public:
+  explicit StartedReader(const std::string& text, const std::string& settings = "")
+      : FakeReader(text, settings) {
+    Start();
+  }
 };
 
 // Whether the book was paginated while action ran.

@@ -15,36 +15,32 @@ namespace {
 
 const std::filesystem::path kManual = std::filesystem::path(VIREO_SOURCE_DIR) / "data" / "manual";
 
-// The ids a page offers as anchors.
-std::set<std::string> Anchors(const std::string& html) {
-  std::set<std::string> ids;
-  const std::regex id(R"re(id="([^"]+)")re");
-  for (auto it = std::sregex_iterator(html.begin(), html.end(), id); it != std::sregex_iterator();
-       ++it) {
-    ids.insert((*it)[1]);
+// The first group of every match of pattern in html, in order.
+std::vector<std::string> Captured(const std::string& html, const std::regex& pattern) {
+  std::vector<std::string> found;
+  for (std::sregex_iterator it(html.begin(), html.end(), pattern), end; it != end; ++it) {
+    found.push_back((*it)[1]);
   }
-  return ids;
+  return found;
 }
 
 TEST(Manual, EveryLinkOfEveryPageResolves) {
-  const std::regex link(R"re((href|src)="([^"]+)")re");
+  const std::regex link(R"re((?:href|src)="([^"]+)")re");
+  const std::regex anchor(R"re(id="([^"]+)")re");
   int links = 0;
   for (const auto& entry : std::filesystem::directory_iterator(kManual)) {
     if (entry.path().extension() != ".html") continue;
-    const std::string html = test::ReadFile(entry.path().string());
-    for (auto it = std::sregex_iterator(html.begin(), html.end(), link);
-         it != std::sregex_iterator(); ++it) {
-      const std::string target = (*it)[2];
+    for (const std::string& target : Captured(test::ReadFile(entry.path().string()), link)) {
       if (target.find("://") != std::string::npos) continue;
       const size_t hash = target.find('#');
       const std::string file = target.substr(0, hash);
       const std::filesystem::path page = file.empty() ? entry.path() : kManual / file;
       ++links;
       ASSERT_TRUE(std::filesystem::exists(page)) << entry.path().filename() << ": " << target;
-      if (hash != std::string::npos) {
-        EXPECT_TRUE(Anchors(test::ReadFile(page.string())).count(target.substr(hash + 1)))
-            << entry.path().filename() << ": " << target;
-      }
+      if (hash == std::string::npos) continue;
+      EXPECT_THAT(Captured(test::ReadFile(page.string()), anchor),
+                  testing::Contains(target.substr(hash + 1)))
+          << entry.path().filename() << ": " << target;
     }
   }
   EXPECT_GT(links, 30);

@@ -11,7 +11,7 @@
 namespace vireo {
 namespace {
 
-using test::FakeReader;
+using test::StartedReader;
 using ::testing::HasSubstr;
 
 using test::kInstant;
@@ -19,8 +19,7 @@ using test::kInstant;
 // Each way of opening keeps to its own file types; a file of the right type
 // that holds no book says so, and the book on show stays.
 TEST(OpeningFiles, ANamedFileOpensAsADroppedOneAndAnEbookNeedsNoBookType) {
-  FakeReader reader("The reader's own book.", kInstant);
-  reader.Start();
+  StartedReader reader("The reader's own book.", kInstant);
   const auto packed = [](const std::string& text) {
     return PackBody(PackableText(text, TextEncoding::kWindows1252), "Author", "Title");
   };

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
@@ -11,14 +13,6 @@
 
 namespace vireo {
 namespace {
-
-int ColourCount(const QImage& picture, QRgb colour) {
-  int count = 0;
-  for (int y = 0; y < picture.height(); ++y) {
-    for (int x = 0; x < picture.width(); ++x) count += picture.pixel(x, y) == colour ? 1 : 0;
-  }
-  return count;
-}
 
 class PageSetupTest : public testing::Test {
  protected:
@@ -92,7 +86,10 @@ TEST_F(PageSetupTest, CancelledChangesNothingAndAColourAndBordersConfirmedAreDra
   test::Press(reader, Qt::Key_Space);
   const QImage next = test::BoxPicture(reader, kLeftPageBox);
   EXPECT_EQ(next.pixel(3, 3), qRgb(10, 20, 30)) << "the next spread too";
-  EXPECT_GT(next.width() * next.height() - ColourCount(next, qRgb(10, 20, 30)), 500)
+  const auto* pixels = reinterpret_cast<const QRgb*>(next.constBits());  // 32-bit RGB
+  EXPECT_GT(std::count_if(pixels, pixels + next.width() * next.height(),
+                          [](QRgb pixel) { return pixel != qRgb(10, 20, 30); }),
+            500)
       << "with its text, not an emptied cached page";
   reader.logic().lifecycle().Quit();
   EXPECT_NE(test::ReadFile(reader.folder().File("Vireo.ini")).find("PAPERCOLOUR,1971210\r\n"),
@@ -104,34 +101,32 @@ TEST_F(PageSetupTest, EachBorderIsCheckedAtItsLimits) {
   Open();
   const struct {
     const char* box;
-    const char* typed;
-    const char* message;  // "" when accepted
-  } cases[] = {
-      {"txtLeftBorder", "99", "Left border must be between 100 and 1000"},
-      {"txtLeftBorder", "100", ""},
-      {"txtLeftBorder", "1001", "Left border must be between 100 and 1000"},
-      {"txtTopBorder", "99", "Top border must be between 100 and 1000"},
-      {"txtTopBorder", "1000", ""},
-      {"txtTopBorder", "1001", "Top border must be between 100 and 1000"},
-      {"txtBottomBorder", "199", "Bottom border must be between 200 and 1000"},
-      {"txtBottomBorder", "200", ""},
-      {"txtBottomBorder", "1001", "Bottom border must be between 200 and 1000"},
-      {"txtRightBorder", "99", "Right border must be between 100 and 1000"},
-      {"txtRightBorder", "100", ""},
-      {"txtRightBorder", "abc", "Right border must be between 100 and 1000"},
-      {"txtRightBorder", "1000", ""},
+    int lowest, highest;
+    const char* message;
+  } borders[] = {
+      {"txtLeftBorder", 100, 1000, "Left border must be between 100 and 1000"},
+      {"txtTopBorder", 100, 1000, "Top border must be between 100 and 1000"},
+      {"txtBottomBorder", 200, 1000, "Bottom border must be between 200 and 1000"},
+      {"txtRightBorder", 100, 1000, "Right border must be between 100 and 1000"},
   };
-  for (const auto& c : cases) {
-    if (!dialog->isVisible()) Open();
-    Click("cmdDefaultBorders");
-    Type(c.box, c.typed);
-    reader.user().messages.clear();
-    Click("cmdOK");
-    const bool accepted = *c.message == '\0';
-    EXPECT_EQ(test::LastMessage(reader), c.message) << c.box << " " << c.typed;
-    EXPECT_EQ(dialog->isVisible(), !accepted) << c.box << " " << c.typed;
-    if (!accepted) {
-      EXPECT_EQ(Find<QLineEdit>(c.box)->text(), c.typed) << "kept as typed";
+  for (const auto& border : borders) {
+    const std::pair<std::string, bool> typed_accepted[] = {
+        {std::to_string(border.lowest - 1), false},
+        {std::to_string(border.lowest), true},
+        {std::to_string(border.highest), true},
+        {std::to_string(border.highest + 1), false},
+        {"abc", false}};
+    for (const auto& [typed, accepted] : typed_accepted) {
+      if (!dialog->isVisible()) Open();
+      Click("cmdDefaultBorders");
+      Type(border.box, typed.c_str());
+      reader.user().messages.clear();
+      Click("cmdOK");
+      EXPECT_EQ(test::LastMessage(reader), accepted ? "" : border.message) << border.box << typed;
+      EXPECT_EQ(dialog->isVisible(), !accepted) << border.box << " " << typed;
+      if (!accepted) {
+        EXPECT_EQ(Find<QLineEdit>(border.box)->text().toStdString(), typed) << "kept as typed";
+      }
     }
   }
 }

@@ -13,14 +13,14 @@ namespace vireo {
 namespace {
 
 using test::FakeReader;
+using test::StartedReader;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
 using test::kInstant;
 
 TEST(ReaderLogic, StartUpShowsTheFirstSpreadBeforeThePaginationEndsAndCountsThePages) {
-  FakeReader reader(test::NumberedProse(300), kInstant);
-  reader.Start();
+  StartedReader reader(test::NumberedProse(300), kInstant);
   EXPECT_EQ(reader.view.caption, "Book");
   EXPECT_EQ(reader.logic.current_page(), 2);
   EXPECT_THAT(reader.buffers.Text(kLeftPageBox), HasSubstr("Paragraph"));
@@ -82,8 +82,7 @@ TEST(ReaderLogic, TheBookOpensAtItsStoredPlaceAndExitStoresThePlaceOnShowAfterAn
 }
 
 TEST(ReaderLogic, AFontChangeReopensWhereItWasAndDropsKeysExitAndResizesWhilePaginating) {
-  FakeReader reader(test::NumberedProse(300), kInstant);
-  reader.Start();
+  StartedReader reader(test::NumberedProse(300), kInstant);
   reader.logic.spread().ShowPage(21);
   const int32_t place = reader.logic.pages().PageStart(reader.logic.current_page());
   reader.buffers.lamps.clear();
@@ -125,9 +124,8 @@ TEST(ReaderLogic, AFontChangeReopensWhereItWasAndDropsKeysExitAndResizesWhilePag
 }
 
 TEST(ReaderLogic, TheBarAndThePageModeLayTheBookOutAgain) {
-  FakeReader reader(test::NumberedProse(200),
-                    std::string(kInstant) + "SINGLEWINWIDTH,6000\r\nSINGLEWINHEIGHT,7000\r\n");
-  reader.Start();
+  StartedReader reader(test::NumberedProse(200),
+                       std::string(kInstant) + "SINGLEWINWIDTH,6000\r\nSINGLEWINHEIGHT,7000\r\n");
   const double height_with_bar = reader.buffers.layout.page_height;
   reader.logic.commands().Form_KeyUp('B', ShiftKey::kUp);
   EXPECT_TRUE(reader.logic.preferences().bar_hidden);
@@ -159,8 +157,7 @@ TEST(ReaderLogic, TheBarAndThePageModeLayTheBookOutAgain) {
 }
 
 TEST(ReaderLogic, TheWindowKeepsItsSmallestSize) {
-  FakeReader reader(test::NumberedProse(300), kInstant);
-  reader.Start();
+  StartedReader reader(test::NumberedProse(300), kInstant);
   const auto resize = [&](double width, double height) {
     reader.view.size = {width, height};
     reader.logic.view_commands().Form_Resize();
@@ -174,8 +171,7 @@ TEST(ReaderLogic, TheWindowKeepsItsSmallestSize) {
 }
 
 TEST(ReaderLogic, TheFormattingMenuReloadsTheBookWithItsOptions) {
-  FakeReader reader("An _underlined_ word.\r\nA second line.\r\n\r\nA new paragraph.");
-  reader.Start();
+  StartedReader reader("An _underlined_ word.\r\nA second line.\r\n\r\nA new paragraph.");
   ReaderCommands& commands = reader.logic.commands();
   const std::string formatted = reader.logic.book_pages().text;
   EXPECT_TRUE(test::Repaginates(reader, [&] { commands.mnuUnderscores_Click(); }));
@@ -196,8 +192,7 @@ TEST(ReaderLogic, ANewTermIsShownInPlaceAndFindMovesBetweenMatchesWhateverTheirC
   std::string text = test::NumberedProse(400);
   text.insert(text.find("Paragraph 150 "), "Zebra ");
   text.insert(text.find("Paragraph 300 "), "Zebra ");
-  FakeReader reader(text, kInstant);
-  reader.Start();
+  StartedReader reader(text, kInstant);
   const auto no_more_matches = [&] {
     return std::count(reader.user.messages.begin(), reader.user.messages.end(), "No more matches");
   };
@@ -237,17 +232,13 @@ TEST(ReaderLogic, ANewTermIsShownInPlaceAndFindMovesBetweenMatchesWhateverTheirC
   EXPECT_EQ(reader.logic.current_page(), first);
 }
 
-TEST(ReaderLogic, DeletingTheOpenBookErasesItsFileOnlyWhenConfirmed) {
-  FakeReader reader(test::NumberedProse(50), kInstant);
-  reader.Start();
+// A No keeps the file and the book: the real window's dangerous-question test.
+TEST(ReaderLogic, DeletingTheOpenBookConfirmedErasesItsFileAndClosesIt) {
+  StartedReader reader(test::NumberedProse(50), kInstant);
+  reader.user.yes = true;
   reader.logic.commands().mnuErasefile_Click();
   EXPECT_EQ(reader.user.messages.back(),
             "Do you really want to erase " + reader.book_path + " from your hard disk?");
-  EXPECT_TRUE(test::FileExists(reader.book_path));
-  EXPECT_TRUE(reader.logic.book_pages().loaded);
-
-  reader.user.yes = true;
-  reader.logic.commands().mnuErasefile_Click();
   EXPECT_FALSE(test::FileExists(reader.book_path));
   EXPECT_FALSE(reader.logic.book_pages().loaded);
   EXPECT_EQ(reader.view.caption, "Vireo");
@@ -256,8 +247,7 @@ TEST(ReaderLogic, DeletingTheOpenBookErasesItsFileOnlyWhenConfirmed) {
 }
 
 TEST(ReaderLogic, ABookLoadsWithItsStepsInTheLogAndADroppedOneWithItsProgressAfterTheSplash) {
-  FakeReader reader(test::NumberedProse(50), kInstant);
-  reader.Start();
+  StartedReader reader(test::NumberedProse(50), kInstant);
   const std::string log = test::ReadFile(reader.folder.File("log.txt"));
   size_t at = 0;
   for (const std::string& line : {"Loading from: " + reader.book_path, std::string("Reading Book"),
@@ -272,6 +262,42 @@ TEST(ReaderLogic, ABookLoadsWithItsStepsInTheLogAndADroppedOneWithItsProgressAft
   EXPECT_EQ(reader.view.caption, "Second.txt");
   EXPECT_THAT(reader.view.progress_shown, testing::Contains(HasSubstr("%")));
   EXPECT_EQ(reader.view.progress_shown.back(), "");  // taken away when done
+}
+
+// One short paragraph per line, each line one word: a page of few lines
+// holds only a few bytes of text.
+std::string ManyShortLines(int lines) {
+  std::string text;
+  text.reserve(static_cast<size_t>(lines) * 5);
+  for (int line = 0; line < lines; ++line) text += "a\r\n\r\n";
+  return text;
+}
+
+// More pages than 16-bit page numbers reach: the overflow is logged, the reader says how much
+// can be shown, and the pages that fit can be read to the last one without the turns sticking.
+TEST(PageLimit, PagesBeyondSixteenBitsAreExplainedAndTheRestStaysReadable) {
+  StartedReader reader(ManyShortLines(700'000), std::string("FontSize,48\r\n") + kInstant);
+  const int32_t last = BookPages::kLastShowablePage;
+  ASSERT_GT(reader.logic.pages().count, last);
+  EXPECT_THAT(
+      Actions().text,
+      testing::Contains(testing::StartsWith("Overflow in sub reindexfile(6) of module frmMain")));
+  ASSERT_EQ(reader.user.messages.size(), 1u);
+  const std::string& message = reader.user.messages.front();
+  EXPECT_THAT(message, HasSubstr(std::to_string(reader.logic.pages().count) + " pages"));
+  EXPECT_THAT(message, HasSubstr("only the first " + std::to_string(last) + " ("));
+  EXPECT_THAT(message, HasSubstr("smaller font"));
+
+  reader.logic.commands().Form_KeyUp(vk::kEnd, ShiftKey::kUp);
+  EXPECT_EQ(reader.logic.current_page(), last);
+  EXPECT_THAT(reader.buffers.Text(kLeftPageBox), HasSubstr("a"));
+  ClearActions();
+  for (int turn = 0; turn < 3; ++turn) {
+    reader.logic.commands().Form_KeyUp(vk::kSpace, ShiftKey::kUp);
+  }
+  EXPECT_EQ(Actions().position, 0) << Actions().text[1];
+  reader.logic.commands().Form_KeyUp(vk::kHome, ShiftKey::kUp);
+  EXPECT_EQ(reader.logic.current_page(), 2) << "the turns did not stick";
 }
 
 }  // namespace

@@ -19,21 +19,13 @@ namespace vireo::test {
 class ReaderWindow {
  public:
   ReaderWindow(const std::string& text, const std::string& settings = "",
-               UserInteraction* person = nullptr) {
-    ResetGlobalSettings();
-    ClearActions();
-    qputenv("XDG_DATA_HOME", folder_.File("xdg").c_str());
-    if (!settings.empty()) WriteFile(folder_.File("Vireo.ini"), settings);
-    book_ = folder_.File("Book");
-    WriteEbook(book_, text);
-    window_ = std::make_unique<MainWindow>(person != nullptr ? *person : user_,
-                                           ProgramLocation{folder_.str(), book_});
-  }
+               UserInteraction* person = nullptr)
+      : files_(text, settings),
+        window_(std::make_unique<MainWindow>(person != nullptr ? *person : user_,
+                                             ProgramLocation{files_.folder.str(), book()})) {}
   ~ReaderWindow() {
     ClearQuit();
     window_.reset();
-    SetLogFolder("");
-    ResetGlobalSettings();
   }
 
   // Runs the start-up sequence and shows the window.
@@ -45,8 +37,8 @@ class ReaderWindow {
 
   MainWindow& window() { return *window_; }
   frmMain& logic() { return window_->logic(); }
-  const TempFolder& folder() const { return folder_; }
-  const std::string& book() const { return book_; }
+  const TempFolder& folder() const { return files_.folder; }
+  const std::string& book() const { return files_.book_path; }
   FakeUser& user() { return user_; }
 
  private:
@@ -57,8 +49,7 @@ class ReaderWindow {
     QCoreApplication::exec();
   }
 
-  TempFolder folder_;
-  std::string book_;
+  ReaderFolder files_;
   FakeUser user_;
   std::unique_ptr<MainWindow> window_;
 };

@@ -14,6 +14,7 @@ namespace vireo {
 namespace {
 
 using test::FakeReader;
+using test::StartedReader;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
@@ -22,18 +23,6 @@ using test::kInstant;
 std::string PageWords(FakeReader& reader, int page) {
   return Utf8FromWindows1252(
       PlainBookText(reader.logic.book_pages().Page(page).text, ItalicMarks::kDropped));
-}
-
-TEST(Services, TheItemsThatNeedABookAreEnabledOnlyWhileOneIsOpen) {
-  FakeReader reader(test::NumberedProse(40), kInstant);
-  reader.view.enabled_items.clear();
-  reader.Start();
-  for (const bool open : {true, false}) {
-    if (!open) reader.logic.book().CloseBook();
-    for (const char* item : {"mnuSave", "mnuCopyPage", "mnuPrint", "mnuReadAloud"}) {
-      EXPECT_EQ(reader.view.enabled_items[item], open) << item;
-    }
-  }
 }
 
 TEST(Services, CopyPageTakesThePageUnderTheMenuElseTheRightOrOnlyPage) {
@@ -50,8 +39,7 @@ TEST(Services, CopyPageTakesThePageUnderTheMenuElseTheRightOrOnlyPage) {
       {false, kLeftPageBox, CopiedPage::kRightPage, kRightPageBox, 0},
       {true, -1, CopiedPage::kRightPage, kLeftPageBox, 0},
   };
-  FakeReader reader(test::NumberedProse(300), kInstant);
-  reader.Start();
+  StartedReader reader(test::NumberedProse(300), kInstant);
   reader.logic.spread().ShowPage(6);
   for (const Case& c : cases) {
     reader.logic.view_commands().SwitchPageMode(c.single);
@@ -71,8 +59,7 @@ TEST(Services, CopyPageTakesThePageUnderTheMenuElseTheRightOrOnlyPage) {
 // is the same text in the other encoding.
 TEST(Services, ExportRoundTripsTheBookTextInBothEncodingsButNeverOverTheProgram) {
   const std::string text = "Caf\xe9 \x93quoted\x94 words.\r\n\r\nA second paragraph.\r\n\r\n";
-  FakeReader reader(text + test::NumberedProse(5), kInstant);
-  reader.Start();
+  StartedReader reader(text + test::NumberedProse(5), kInstant);
   std::string exported[2];
   for (const int kind : {0, 1}) {
     const std::string path = reader.folder.File("export" + std::to_string(kind) + ".txt");
@@ -82,8 +69,7 @@ TEST(Services, ExportRoundTripsTheBookTextInBothEncodingsButNeverOverTheProgram)
   }
   EXPECT_THAT(exported[1], StartsWith("Caf\xe9 \"quoted\" words.\n\nA second"));
   EXPECT_EQ(exported[0], Utf8FromWindows1252(exported[1]));
-  FakeReader again(exported[1], kInstant);
-  again.Start();
+  StartedReader again(exported[1], kInstant);
   EXPECT_EQ(again.logic.book_pages().text, reader.logic.book_pages().text);
 
   const std::string program = test::ReadFile(reader.book_path);
@@ -93,8 +79,9 @@ TEST(Services, ExportRoundTripsTheBookTextInBothEncodingsButNeverOverTheProgram)
   EXPECT_EQ(test::ReadFile(reader.book_path), program);
 }
 
-TEST(Services, WebPagesHelpPrintAndTheMenuKeysGoToTheirServices) {
+TEST(Services, TheItemsAndMenuKeysGoToTheirServicesAndThoseNeedingABookWaitForOne) {
   FakeReader reader(test::NumberedProse(40), "PAYAUTHORADDRESS,https://pay.example\r\n");
+  reader.view.enabled_items.clear();
   reader.Start();
   reader.logic.services().mnuPayAuthor_Click();
   reader.logic.services().mnuCheckUpdate_Click();
@@ -109,12 +96,17 @@ TEST(Services, WebPagesHelpPrintAndTheMenuKeysGoToTheirServices) {
   EXPECT_EQ(reader.view.context_menus, 0);
   EXPECT_THAT(reader.view.services.printed_page_counts,
               testing::ElementsAre(reader.logic.pages().count));
+  for (const bool open : {true, false}) {
+    if (!open) reader.logic.book().CloseBook();
+    for (const char* item : {"mnuSave", "mnuCopyPage", "mnuPrint", "mnuReadAloud"}) {
+      EXPECT_EQ(reader.view.enabled_items[item], open) << item;
+    }
+  }
 }
 
 // A right-click opens the menu; a shift-click marks a line while held, then speaks it.
 TEST(ReadAloud, AShiftClickSpeaksTheMarkedLineAndWithoutAnEngineThePersonIsToldWhatToInstall) {
-  FakeReader reader(test::NumberedProse(40), kInstant);
-  reader.Start();
+  StartedReader reader(test::NumberedProse(40), kInstant);
   const PageTextArea& area = reader.logic.spread().text_area();
   const auto click = [&](PageMouseEventKind kind, PageMouseButton button, bool shift) {
     reader.logic.commands().Page_Mouse(
@@ -142,8 +134,7 @@ TEST(ReadAloud, AShiftClickSpeaksTheMarkedLineAndWithoutAnEngineThePersonIsToldW
 
 TEST(ReadAloud, ReadingGoesOnPageAfterPageAndTurnsThemInEitherMode) {
   for (const bool single : {false, true}) {
-    FakeReader reader(test::NumberedProse(300), kInstant);
-    reader.Start();
+    StartedReader reader(test::NumberedProse(300), kInstant);
     reader.logic.view_commands().SwitchPageMode(single);
     const int first = reader.logic.spread().PageOnBox(kLeftPageBox);
     ReadAloud& reading = reader.logic.services().read_aloud();

@@ -77,13 +77,17 @@ inline std::string ShellWord(const std::string& word) {
   return quoted + "'";
 }
 
+// Runs the folder's vireo-tool with the arguments (already shell words).
+inline RunResult Tool(const ProgramFolder& program, const std::string& arguments) {
+  return Run(program.Path("vireo-tool") + " " + arguments, {}, program.folder());
+}
+
 // Makes the ebook `name` in the program folder from `text`, with the reader as the stub.
 inline RunResult MakeBook(const ProgramFolder& program, const std::string& name,
                           const std::string& text) {
   WriteFile(program.Path("book.txt"), text);
-  return Run(program.Path("vireo-tool") + " make " + program.Path("book.txt") + " -o " +
-                 ShellWord(program.Path(name)) + " --stub " + program.Path("Vireo"),
-             {}, program.folder());
+  return Tool(program, "make " + program.Path("book.txt") + " -o " + ShellWord(program.Path(name)) +
+                           " --stub " + program.Path("Vireo"));
 }
 
 // Runs a program of the folder unattended; it quits as soon as it has started.

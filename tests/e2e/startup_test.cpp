@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "e2e/program_runner.h"
 
 namespace vireo {
@@ -23,12 +25,12 @@ TEST(Startup, TheBareReaderStartsReportsNoBookAndShutsDownInOrder) {
   const std::string log = program.Log();
   EXPECT_EQ(log.find("Log file created "), 14u) << log;
   size_t at = 0;  // each line after the one before
-  for (const std::string& text :
-       std::vector<std::string>{"Operating System: ", "\r\n", "Startup\r\n", "Showing splash\r\n",
-        "Registering File Extensions\r\n", "Loading Textures\r\n", "Scanning fonts\r\n",
-        "Reading settings\r\n", "Drawing blank book\r\n", "Attempting to load Vireo\r\n",
-        "Loading from: " + program.Path("Vireo"), "Startup complete\r\n",
-        "Listing last 40 actions: \r\n", "End of actions list\r\n", "Shutdown\r\n"}) {
+  for (const std::string& text : std::vector<std::string>{
+           "Operating System: ", "\r\n", "Startup\r\n", "Showing splash\r\n",
+           "Registering File Extensions\r\n", "Loading Textures\r\n", "Scanning fonts\r\n",
+           "Reading settings\r\n", "Drawing blank book\r\n", "Attempting to load Vireo\r\n",
+           "Loading from: " + program.Path("Vireo"), "Startup complete\r\n",
+           "Listing last 40 actions: \r\n", "End of actions list\r\n", "Shutdown\r\n"}) {
     at = log.find(text, at);
     ASSERT_NE(at, std::string::npos) << "missing or out of order: " << text << "\n" << log;
   }
@@ -63,6 +65,33 @@ TEST(Startup, WithoutTheHelperLibraryTheReaderEndsBeforeAnyWindow) {
       HasSubstr("libvHtml.so is required. This DLL is contained in the Vireo installer at "));
   EXPECT_FALSE(test::FileExists(program.Path("log.txt")));
   EXPECT_FALSE(test::FileExists(program.Path("Vireo.ini")));
+}
+
+// The reader's language chosen in one run and kept in the next; choosing English again is the
+// window's test.
+TEST(Languages, SpanishChosenIsSpokenAfterARestartUntilItsFileIsGone) {
+  test::ProgramFolder program;
+  std::filesystem::copy(std::filesystem::path(test::BinFolder()) / "languages",
+                        program.folder().path() / "languages");
+  // The Language menu: 0 English, 1 Deutsch, 2 Español.
+  ASSERT_EQ(test::StartAndQuit(program, "Vireo", {"VIREO_MENU=mnuSetLang2"}).status, 0);
+  EXPECT_NE(test::ReadFile(program.Path("Vireo.ini")).find("LANGUAGE,es\r\n"), std::string::npos);
+
+  // Without its manual folder, Help says where the manual belongs (messages
+  // are written in Windows-1252).
+  const auto spanish = test::StartAndQuit(program, "Vireo", {"VIREO_MENU=mnuHelp"});
+  EXPECT_NE(spanish.err.find("[message] Vireo: No se encontr\xf3"
+                             " el manual."),
+            std::string::npos)
+      << spanish.err;
+  EXPECT_NE(program.Log().find("Registrando los tipos de archivo"), std::string::npos);
+
+  // A chosen language whose file is gone gives English.
+  std::filesystem::remove(program.Path("languages/es.lng"));
+  const auto english = test::StartAndQuit(program, "Vireo", {"VIREO_MENU=mnuHelp"});
+  EXPECT_NE(english.err.find("[message] Vireo: The manual was not found."), std::string::npos)
+      << english.err;
+  EXPECT_NE(program.Log().find("Registering File Extensions"), std::string::npos);
 }
 
 }  // namespace

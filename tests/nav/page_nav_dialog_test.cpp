@@ -7,8 +7,9 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 #include <functional>
+
+#include "app/reader_window_fixture.h"
 
 namespace vireo {
 namespace {
@@ -70,24 +71,16 @@ TEST_F(PageNavDialogTest, DraggingTypingOrTheEndKeysChooseOnlyPagesOfTheBookAndA
   EXPECT_EQ(dialog.state().selected_page(), 1);
 }
 
-// Runs action once the dialog's modal loop is running.
-void WhenModal(QDialog& dialog, std::function<void()> action) {
-  QTimer::singleShot(10, &dialog, [&dialog, action] {
-    if (QApplication::activeModalWidget() == &dialog) {
-      action();
-    } else {
-      WhenModal(dialog, action);
-    }
-  });
-}
-
 TEST(PageNavDialogModal, ChoosePageReturnsTheChoiceOrNothingWhenClosedByTheFrame) {
   frmPageNav dialog;
-  WhenModal(dialog, [&] { dialog.close(); });
-  EXPECT_EQ(dialog.ChoosePage(3, 20), std::nullopt);
-
-  WhenModal(dialog, [&] { dialog.findChild<QPushButton*>("cmdOK")->click(); });
-  EXPECT_EQ(dialog.ChoosePage(3, 20), std::optional<int>(3)) << "an earlier cancel is forgotten";
+  std::optional<int> chosen = 1;
+  const auto choose = [&](const std::function<void(frmPageNav&)>& answer) {
+    EXPECT_TRUE(test::Answering<frmPageNav>([&] { chosen = dialog.ChoosePage(3, 20); }, answer));
+  };
+  choose([](frmPageNav& shown) { shown.close(); });
+  EXPECT_EQ(chosen, std::nullopt);
+  choose([](frmPageNav& shown) { shown.findChild<QPushButton*>("cmdOK")->click(); });
+  EXPECT_EQ(chosen, std::optional<int>(3)) << "an earlier cancel is forgotten";
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
-// Settings and bookmark files a stranger or a crash left behind, and a book
-// with an odd file name: the real reader starts on them within a time limit,
-// quits cleanly and leaves whole, sane files.
+// Books made of one character run with no blank, settings and bookmark files a stranger or a
+// crash left behind, and a book with an odd file name: the real reader starts on them within a
+// time limit, quits cleanly, keeps its log small and leaves whole, sane files.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -19,11 +19,10 @@ using testing::Not;
 
 std::vector<std::string> Lines(const std::string& content) {
   std::vector<std::string> lines;
-  size_t start = 0;
-  for (size_t end; (end = content.find("\r\n", start)) != std::string::npos; start = end + 2) {
+  for (size_t start = 0, end; start < content.size(); start = end + 2) {
+    end = std::min(content.find("\r\n", start), content.size());
     lines.push_back(content.substr(start, end - start));
   }
-  if (start < content.size()) lines.push_back(content.substr(start));
   return lines;
 }
 
@@ -75,9 +74,12 @@ TEST_F(HostileSettings, OutOfRangePreferencesFallBackToTheDefaultsAndAreNotWritt
     std::string saved;  // the line at exit; "" when the key is gone or its value not known
   };
   const std::vector<Case> cases = {
-      {"FONTSIZE", "-5", "FONTSIZE,10"},    {"LEFTBORDER", "99999", ""},
-      {"RIGHTBORDER", "100", "RIGHTBORDER,100"}, {"TEXTURENUM", "44359", ""},
-      {"PAGESWEEPWIDTH", "0", ""},          {"WINWIDTH", "1e300", ""},
+      {"FONTSIZE", "-5", "FONTSIZE,10"},
+      {"LEFTBORDER", "99999", ""},
+      {"RIGHTBORDER", "100", "RIGHTBORDER,100"},
+      {"TEXTURENUM", "44359", ""},
+      {"PAGESWEEPWIDTH", "0", ""},
+      {"WINWIDTH", "1e300", ""},
       {"HLCOLOUR", "16777216", "HLCOLOUR,45056"},
   };
   std::string settings;
@@ -140,6 +142,53 @@ TEST_F(HostileSettings, AnOddBookNameStaysOneSettingOnOneLine) {
     EXPECT_THAT(line, testing::MatchesRegex("[^,\r\n]+,-?[0-9]+")) << marks;
   }
 }
+
+// Big enough that a step quadratic in the run takes hours; linear steps
+// take seconds, also under the sanitizers.
+constexpr size_t kRunBytes = 1'000'000;
+
+std::string Repeated(std::string_view unit) {
+  std::string text;
+  while (text.size() < kRunBytes) text += unit;
+  return text;
+}
+
+// Name, the run's unit, and whether the run floods the log with errors (a
+// picture reference the reader cannot place), which the log then counts.
+const std::tuple<const char*, std::string, bool> kBooks[] = {
+    {"OneLongWord", "a", false},
+    {"HyphenatedRun", "ab-", false},
+    {"PictureReferences", "[IMG=", true},
+    {"NumericReferenceOpenings", "&#", false},
+    {"Windows1252HighBytes", "\xFF", false},
+    {"PageBreakCodes", "\x86", false},
+    {"StyleCodesInAWord", "x\x80y\x82z\x81\x83", false},
+    {"PictureNumberAfterALongRun", "", true},
+};
+
+class HostileBooks : public testing::TestWithParam<std::tuple<const char*, std::string, bool>> {};
+
+TEST_P(HostileBooks, OpenInTimeQuitCleanlyAndKeepTheLogSmall) {
+  const auto& [name, unit, floods_errors] = GetParam();
+  const std::string text =
+      unit.empty() ? std::string(kRunBytes, 'x') + "=" + std::string(kRunBytes, '0') + "[IMG="
+                   : Repeated(unit);
+  test::ProgramFolder program;
+  const auto made = test::MakeBook(program, "Book", text);
+  ASSERT_EQ(made.status, 0) << made.err;
+  const auto run = test::StartAndQuit(program, "Book");
+  EXPECT_EQ(run.status, 0) << run.err;
+  const std::string log = program.Log();
+  EXPECT_THAT(log, HasSubstr("End of actions list\r\n"));
+  EXPECT_THAT(log, testing::EndsWith("Shutdown\r\n"));
+  EXPECT_LT(log.size(), 64u * 1024);
+  if (floods_errors) {
+    EXPECT_THAT(log, HasSubstr(" >> repeated "));
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Runs, HostileBooks, testing::ValuesIn(kBooks),
+                         [](const auto& run) { return std::string(std::get<0>(run.param)); });
 
 }  // namespace
 }  // namespace vireo
