@@ -5,7 +5,7 @@ set -euo pipefail
 
 packages=(
   cmake ninja-build g++ clang libclang-rt-14-dev clang-format
-  qt6-base-dev qt6-translations-l10n libgl-dev libfontconfig-dev fonts-liberation2 fonts-dejavu-core xvfb xauth
+  qt6-base-dev qt6-translations-l10n libgl-dev fonts-liberation2 fonts-dejavu-core xvfb xauth
   libgtest-dev libgmock-dev libbenchmark-dev libfmt-dev
   bible-kjv binutils time python3
   dpkg-dev file lintian desktop-file-utils appstream

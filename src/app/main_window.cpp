@@ -209,7 +209,6 @@ void MainWindow::OpenBookFile() {
 }
 
 void MainWindow::ShowSplash() {
-  fonts_ahead_.Wait();
   splash_ = std::make_unique<SplashWindow>();
   splash_->show();
 }

@@ -8,7 +8,6 @@
 
 #include "app/book_canvas_widget.h"
 #include "app/control_bar_widget.h"
-#include "app/font_configuration_qt.h"
 #include "app/frm_main.h"
 #include "app/help_dialogs_qt.h"
 #include "app/interaction_qt.h"
@@ -104,7 +103,6 @@ class MainWindow : public QMainWindow, public MainWindowView {
     QWidget* parent_;
   };
 
-  FontConfigurationPreload fonts_ahead_;  // first: loads while the rest is made
   QtMessagePump pump_;
   QtFontSource fonts_;
   UserInteraction& user_;
