@@ -32,6 +32,10 @@ void ClickLabel::mouseReleaseEvent(QMouseEvent* event) {
 
 ControlBarWidget::ControlBarWidget(QWidget* parent) : QWidget(parent) {
   setObjectName("Picture1");
+  // The bar paints its own background, the window colour the canvas shows
+  // around it, so that a change on the bar (the page count while a book is
+  // paginated) repaints the bar alone, not the pages underneath.
+  setAutoFillBackground(true);
   setToolTip(Translatable(
       "Hides the menu bar. Double-click page border to bring it back, or use the right-click "
       "menu."));
