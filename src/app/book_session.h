@@ -83,6 +83,7 @@ class BookSession : public ReindexEvents {
   int32_t page_label_count_ = -1;
   uint32_t page_label_colour_ = 0;
   std::chrono::steady_clock::time_point last_progress_yield_;
+  unsigned raises_since_clock_ = 0;
 };
 
 }  // namespace vireo
