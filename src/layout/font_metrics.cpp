@@ -44,7 +44,7 @@ void clsFontMetrics::MakeArrays(TextMeasure& surface, StylesUsed used) {
     FillTable(surface, false, false);
     UpdateWidest();
     for (const auto& [bold, italic] : {std::pair{true, false}, {false, true}, {true, true}}) {
-      if ((!bold || used.bold) && (!italic || used.italic)) {
+      if (used.Reads(bold, italic)) {
         FillTable(surface, bold, italic);
       } else {
         tables_[TableIndex(bold, italic)].fill(0);

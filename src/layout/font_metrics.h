@@ -15,9 +15,11 @@ struct StylesUsed {
   bool italic = true;
 
   static StylesUsed In(std::string_view text);
-  bool Covers(StylesUsed other) const {
-    return (bold || !other.bold) && (italic || !other.italic);
+  // Whether such a text reads the table of that style.
+  bool Reads(bool bold_table, bool italic_table) const {
+    return (!bold_table || bold) && (!italic_table || italic);
   }
+  bool Covers(StylesUsed other) const { return Reads(other.bold, other.italic); }
 };
 
 // Character widths of the book font in its four styles, measured once from a
