@@ -45,8 +45,7 @@ void BookSession::SetStoredDetails(std::string stored_title, size_t stored_size)
 void BookSession::BookLoaded(std::string text, std::string author, std::string title,
                              std::string path) {
   path_ = std::move(path);
-  context_.book.text = std::move(text);
-  context_.book.styles = StylesUsed::In(context_.book.text);
+  context_.book.SetText(std::move(text));
   ++version_;
   author_ = std::move(author);
   title_ = std::move(title);

@@ -1,6 +1,13 @@
 #include "render/book_pages.h"
 
+#include <utility>
+
 namespace vireo {
+
+void BookPages::SetText(std::string book_text) {
+  text = std::move(book_text);
+  styles = StylesUsed::In(text);
+}
 
 PageContent BookPages::Page(int page) const {
   PageContent content;

@@ -22,9 +22,12 @@ struct PageContent {
 // holds it read-only.
 struct BookPages {
   std::string text;  // Windows-1252 bytes, positions counted from 1
-  StylesUsed styles;  // of text, measured when it is loaded
+  StylesUsed styles;  // of text, as SetText finds them (all until then)
   PageIndex index;
   bool loaded = false;  // false: no book, the title page is shown
+
+  // A new book's text, with the styles it can switch on.
+  void SetText(std::string book_text);
 
   // Page numbers on show are 16-bit, and a spread and its cache reach two
   // pages past the current one: pages beyond this one cannot be shown.

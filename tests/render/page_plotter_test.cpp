@@ -160,7 +160,7 @@ TEST_F(TitlePageTest, DoublePageShowsWelcomeOnTheRightAndTranslatedHintsOnTheLef
 }
 
 TEST_F(PagePlotterTest, OnlyTheStylesTheBookUsesAreMeasuredAndABookWithMoreMeasuresThem) {
-  book.styles = StylesUsed::In(book.text);
+  book.SetText(book.text);
   plotter.PlotOnPage(PageSide::kLeft, 0, 1);
   const double plain = boxes.boxes[0].char_width;
   EXPECT_EQ(metrics.Width(false, false, 'a'), plain);
@@ -168,8 +168,7 @@ TEST_F(PagePlotterTest, OnlyTheStylesTheBookUsesAreMeasuredAndABookWithMoreMeasu
     EXPECT_EQ(metrics.Width(bold, italic, 'a'), 0) << bold << italic;
   }
 
-  book.text += "\x82sloping\x83";
-  book.styles = StylesUsed::In(book.text);
+  book.SetText(book.text + "\x82sloping\x83");
   plotter.PlotOnPage(PageSide::kLeft, 0, 1);
   EXPECT_EQ(metrics.Width(false, true, 'a'), plain + boxes.boxes[0].italic_extra);
   EXPECT_EQ(metrics.Width(true, false, 'a'), 0);
